@@ -1,0 +1,18 @@
+#!/usr/bin/env bash
+# Installs what the project needs on a fresh Debian machine (root or sudo). Safe to run again:
+# packages already present are left alone.
+set -euo pipefail
+
+paquets=(cmake ninja-build g++ libgtest-dev libgmock-dev libbenchmark-dev clang-format)
+manquants=()
+for p in "${paquets[@]}"; do
+    dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || manquants+=("$p")
+done
+if [ ${#manquants[@]} -gt 0 ]; then
+    echo "Installation de : ${manquants[*]}"
+    sudo_=""
+    [ "$(id -u)" -ne 0 ] && sudo_="sudo"
+    export DEBIAN_FRONTEND=noninteractive
+    $sudo_ apt-get update -qq
+    $sudo_ apt-get install -y -qq "${manquants[@]}"
+fi

@@ -1,0 +1,72 @@
+#include "data/EnrDossier.h"
+
+#include "utils/Binaire.h"
+
+namespace verdane {
+
+namespace {
+
+// One description of the layout serves the reader and the writer.
+template <typename Flux, typename Enr> void Parcourir(Flux& f, Enr& e) {
+    f.Chaine(e.chemin, 50);
+    f.Chaine(e.nom, 50);
+    f.Chaine(e.nomExploitation, 30);
+    f.Chaine(e.adresse, 30);
+    f.Chaine(e.commune, 30);
+    f.I16(e.reserve1);
+    f.I16(e.anneeDebut);
+    f.I16(e.nbAnEtude);
+    f.I32(e.typeExploitation);
+    f.Chaine(e.descProjet, 500);
+    f.Chaine(e.dateDebut, 10);
+    f.Chaine(e.conseiller, 20);
+    f.I16(e.nbAssocies);
+    for (auto& n : e.nomAssocie) f.Chaine(n, 30);
+    for (auto& j : e.jaAssocie) f.I16(j);
+    for (auto& n : e.naissanceAssocie) f.Chaine(n, 10);
+    for (auto& s : e.situationAssocie) f.Chaine(s, 15);
+    f.Chaine(e.regionAgri, 40);
+    f.Chaine(e.activAutre, 40);
+    f.Chaine(e.banque, 40);
+    f.Chaine(e.numAdh, 15);
+    for (std::size_t i = 0; i < e.produit.size(); ++i) {
+        f.Chaine(e.produit[i], 40);
+        f.Chaine(e.modeCom[i], 40);
+    }
+    f.I16(e.moisTva);
+    f.Chaine(e.reserve2, 12);
+    f.I16(e.devise);
+    f.Chaine(e.tel, 20);
+    f.Chaine(e.fax, 20);
+}
+
+struct Lecture {
+    LecteurBinaire l;
+    void Chaine(Texte& t, std::size_t n) { t = l.Chaine(n); }
+    void I16(std::int16_t& v) { v = l.I16(); }
+    void I32(std::int32_t& v) { v = l.I32(); }
+};
+
+struct Ecriture {
+    EcrivainBinaire e;
+    void Chaine(const Texte& t, std::size_t n) { e.Chaine(t, n); }
+    void I16(std::int16_t v) { e.I16(v); }
+    void I32(std::int32_t v) { e.I32(v); }
+};
+
+} // namespace
+
+EnrDossier LireEnrDossier(std::string_view octets) {
+    EnrDossier enr;
+    Lecture lecture{LecteurBinaire(octets)};
+    Parcourir(lecture, enr);
+    return enr;
+}
+
+std::string EcrireEnrDossier(const EnrDossier& enr) {
+    Ecriture ecriture;
+    Parcourir(ecriture, enr);
+    return ecriture.e.Octets();
+}
+
+} // namespace verdane

@@ -1,0 +1,16 @@
+#include "shell/Contexte.h"
+
+#include "engine/AnalyserCodes.h"
+
+namespace verdane {
+
+namespace {
+AnalyseurCodes& AnalyseurDuProgramme() {
+    static AnalyseurStandard analyseur; // holds no state
+    return analyseur;
+}
+} // namespace
+
+Contexte::Contexte(PortUtilisateur& u) : utilisateur(u), analyseur(&AnalyseurDuProgramme()) {}
+
+} // namespace verdane

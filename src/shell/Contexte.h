@@ -1,0 +1,39 @@
+#pragma once
+// One run of the program: its state and the ports through which the core reaches the user,
+// the word processor and the other platform services. Every routine of the core that needs
+// more than its arguments takes a Contexte by reference.
+
+#include "links/PiloteEditeur.h"
+#include "shell/Etat.h"
+#include "shell/PortUtilisateur.h"
+
+#include <array>
+
+namespace verdane {
+
+class Contexte;
+
+// The scanner that the creation driver hands each mark to.
+class AnalyseurCodes {
+public:
+    virtual ~AnalyseurCodes() = default;
+    // Expands the marks of `texte` in place; false after a false condition.
+    virtual bool Analyser(Contexte& ctx, Texte& texte, bool expliquer, bool miseAJour) = 0;
+};
+
+class Contexte {
+public:
+    explicit Contexte(PortUtilisateur& utilisateur);
+
+    Etat etat;
+    PortUtilisateur& utilisateur;
+
+    // Word-processor links by editor number (Word, Word Pro, OpenOffice); null: not available.
+    std::array<PiloteEditeur*, 4> pilotes{};
+    // The code scanner; the program's own unless a test puts another.
+    AnalyseurCodes* analyseur;
+
+    PiloteEditeur* Pilote(Editeur e) const { return pilotes[static_cast<std::size_t>(e)]; }
+};
+
+} // namespace verdane

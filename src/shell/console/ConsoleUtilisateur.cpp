@@ -1,0 +1,135 @@
+#include "shell/console/ConsoleUtilisateur.h"
+
+#include "utils/Chaines.h"
+
+#include <algorithm>
+
+#include <unistd.h>
+
+namespace verdane {
+namespace {
+
+const char* NomReponse(Reponse r) {
+    switch (r) {
+    case Reponse::Ok: return "OK";
+    case Reponse::Oui: return "Oui";
+    case Reponse::Non: return "Non";
+    case Reponse::Annuler: return "Annuler";
+    }
+    return "";
+}
+
+std::vector<Reponse> Choix(Boutons b) {
+    switch (b) {
+    case Boutons::Ok: return {Reponse::Ok};
+    case Boutons::OuiNon: return {Reponse::Oui, Reponse::Non};
+    case Boutons::OuiNonAnnuler: return {Reponse::Oui, Reponse::Non, Reponse::Annuler};
+    case Boutons::OkAnnuler: return {Reponse::Ok, Reponse::Annuler};
+    }
+    return {Reponse::Ok};
+}
+
+} // namespace
+
+std::string TexteConsole(const Texte& texte) {
+    // The program's texts break lines with CR LF, as the message boxes want.
+    Texte t = RemplacerExact(texte, "\r\n", "\n");
+    t = RemplacerExact(t, "\r", "\n");
+    return Cp1252VersUtf8(t);
+}
+
+ConsoleUtilisateur::ConsoleUtilisateur()
+    : ConsoleUtilisateur(stdin, isatty(STDIN_FILENO) != 0, stderr, isatty(STDERR_FILENO) != 0) {}
+
+ConsoleUtilisateur::ConsoleUtilisateur(std::FILE* entree, bool entreeTerminal, std::FILE* erreur,
+                                       bool erreurTerminal)
+    : entree_(entree), entreeTerminal_(entreeTerminal), erreur_(erreur),
+      erreurTerminal_(erreurTerminal) {}
+
+void ConsoleUtilisateur::Ecrire(const std::string& utf8) {
+    if (jaugeOuverte_ && erreurTerminal_) std::fputs("\r\033[K", erreur_);
+    std::fputs(utf8.c_str(), erreur_);
+    std::fflush(erreur_);
+}
+
+void ConsoleUtilisateur::AfficherMessage(const Message& message) {
+    if (surMessage) surMessage(message);
+    if (message.texte.empty()) return; // the form stays as it stands
+    std::string s;
+    if (!message.titre.empty()) s += "[" + TexteConsole(message.titre) + "]\n";
+    s += TexteConsole(message.texte) + "\n";
+    if (!message.technique.empty()) s += TexteConsole(message.technique) + "\n";
+    Ecrire(s);
+}
+
+void ConsoleUtilisateur::Boite(const Texte& texte, const Texte& titre, Icone) {
+    AfficherMessage(Message{texte, "", titre, "boite"});
+}
+
+Reponse ConsoleUtilisateur::Question(const Texte& texte, const Texte& titre, Boutons boutons,
+                                     Reponse parDefaut, Icone) {
+    const auto choix = Choix(boutons);
+    std::string s;
+    if (!titre.empty()) s += "[" + TexteConsole(titre) + "]\n";
+    s += TexteConsole(texte) + "\n";
+    Reponse prise = parDefaut;
+    if (imposee_) {
+        prise = *imposee_;
+        s += std::string("-> ") + NomReponse(prise) + " (réponse imposée)\n";
+        Ecrire(s);
+    } else if (!entreeTerminal_) {
+        s += std::string("-> ") + NomReponse(parDefaut) +
+             " (réponse par défaut : aucun terminal pour répondre)\n";
+        Ecrire(s);
+    } else {
+        for (;;) {
+            std::string invite = s;
+            for (std::size_t i = 0; i < choix.size(); ++i) {
+                invite += i == 0 ? "" : " / ";
+                invite += NomReponse(choix[i]);
+                if (choix[i] == parDefaut) invite += "*";
+            }
+            Ecrire(invite + " ? ");
+            char ligne[64];
+            if (!std::fgets(ligne, sizeof ligne, entree_)) break; // end of input: the default
+            const Texte reponse = Minuscules(RognerTout(ligne));
+            if (reponse.empty()) break;
+            bool trouvee = false;
+            for (Reponse r : choix) {
+                const Texte nom = Minuscules(NomReponse(r));
+                if (nom == reponse || nom[0] == reponse[0]) {
+                    prise = r;
+                    trouvee = true;
+                    break;
+                }
+            }
+            if (trouvee) break;
+            s.clear();
+        }
+    }
+    if (surQuestion) surQuestion(texte, titre, prise);
+    return prise;
+}
+
+void ConsoleUtilisateur::OuvrirJauge(const Texte& titre) {
+    jaugeOuverte_ = true;
+    if (erreurTerminal_ && !titre.empty()) Ecrire(TexteConsole(titre) + "\n");
+}
+
+void ConsoleUtilisateur::PoserJauge(int largeur, const Texte& libelle) {
+    if (!erreurTerminal_) return;
+    constexpr int kCases = 30;
+    const int pleines = std::max(0, std::min(kCases, largeur * kCases / 2970));
+    std::string barre = "\r\033[K[" + std::string(static_cast<std::size_t>(pleines), '#') +
+                        std::string(static_cast<std::size_t>(kCases - pleines), '.') + "] " +
+                        TexteConsole(RognerTout(libelle));
+    std::fputs(barre.c_str(), erreur_);
+    std::fflush(erreur_);
+}
+
+void ConsoleUtilisateur::FermerJauge() {
+    if (jaugeOuverte_ && erreurTerminal_) std::fputs("\n", erreur_);
+    jaugeOuverte_ = false;
+}
+
+} // namespace verdane

@@ -1,0 +1,51 @@
+#pragma once
+// The user port on a terminal. Messages go to stderr in UTF-8. A question reads its answer
+// from the terminal when stdin is one; otherwise it takes its default and says so, so that a
+// batch run never waits. The gauge is a bar on stderr when stderr is a terminal.
+
+#include "shell/PortUtilisateur.h"
+
+#include <cstdio>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace verdane {
+
+class ConsoleUtilisateur : public PortUtilisateur {
+public:
+    ConsoleUtilisateur();
+    // For tests: explicit streams and whether each is a terminal.
+    ConsoleUtilisateur(std::FILE* entree, bool entreeTerminal, std::FILE* erreur,
+                       bool erreurTerminal);
+
+    void AfficherMessage(const Message& message) override;
+    void Boite(const Texte& texte, const Texte& titre, Icone icone) override;
+    Reponse Question(const Texte& texte, const Texte& titre, Boutons boutons, Reponse parDefaut,
+                     Icone icone) override;
+    void OuvrirJauge(const Texte& titre) override;
+    void PoserJauge(int largeur, const Texte& libelle) override;
+    void FermerJauge() override;
+
+    // An answer imposed on every question (verdane-lot --reponse); none by default.
+    void ImposerReponse(std::optional<Reponse> reponse) { imposee_ = reponse; }
+
+    // Watchers of what was said and asked, for the run's report.
+    std::function<void(const Message&)> surMessage;
+    std::function<void(const Texte& texte, const Texte& titre, Reponse prise)> surQuestion;
+
+private:
+    void Ecrire(const std::string& utf8);
+    std::FILE* entree_;
+    bool entreeTerminal_;
+    std::FILE* erreur_;
+    bool erreurTerminal_;
+    bool jaugeOuverte_ = false;
+    std::optional<Reponse> imposee_;
+};
+
+// Text of the engine written to the terminal: Windows-1252 to UTF-8, RTF-free line breaks.
+std::string TexteConsole(const Texte& texte);
+
+} // namespace verdane
