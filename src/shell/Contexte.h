@@ -12,6 +12,7 @@
 namespace verdane {
 
 class Contexte;
+class ExtensionsCode;
 
 // The scanner that the creation driver hands each mark to.
 class AnalyseurCodes {
@@ -32,6 +33,9 @@ public:
     std::array<PiloteEditeur*, 4> pilotes{};
     // The code scanner; the program's own unless a test puts another.
     AnalyseurCodes* analyseur;
+    // What the interpreter hands to the table, graph and domain engines; null: the built-in
+    // routines of the program.
+    ExtensionsCode* extensions = nullptr;
 
     PiloteEditeur* Pilote(Editeur e) const { return pilotes[static_cast<std::size_t>(e)]; }
 };

@@ -3,6 +3,7 @@
 // names are those the program's documentation uses; each is set by one module.
 
 #include "data/EnrDossier.h"
+#include "data/FormatNombre.h"
 #include "domain/EtatDomaine.h"
 #include "graphs/EtatGraphes.h"
 #include "tables/EtatTableaux.h"
@@ -98,6 +99,9 @@ struct Etat {
     // Study length asked in the PDE frame of the creation dialog, when that frame is shown:
     // 0 means 5 years. Overrides the dossier's length for the run.
     std::optional<int> anneesPDE;
+
+    // Number marks of the user's locale, read once at start.
+    MarquesNombre marques;
 
     EtatTableaux tableaux;
     EtatGraphes graphes;

@@ -1,0 +1,29 @@
+#pragma once
+// The one routine that turns a number into text, and its reverse.
+
+#include "utils/Texte.h"
+
+#include <cstdint>
+#include <optional>
+#include <string_view>
+
+namespace verdane {
+
+// Thousands and decimal marks of the user's locale. French conventions when none is set:
+// a decimal comma and a non-breaking space (byte 0xA0) between thousands.
+struct MarquesNombre {
+    Texte decimale = ",";
+    Texte milliers = "\xA0";
+};
+
+// `decimales` 0 to 6: rounded to that many places, ties to even; any other value (7, "AUTO"):
+// the pattern is chosen from the number's shortest text. A value of exactly 0 with
+// `videSiZero` gives one blank.
+Texte FormatNombre(float valeur, std::int16_t decimales, bool videSiZero,
+                   const MarquesNombre& marques = MarquesNombre{});
+
+// Reads back what FormatNombre wrote (thousands marks included); nothing if it isn't a number.
+std::optional<double> LireNombre(std::string_view texte,
+                                 const MarquesNombre& marques = MarquesNombre{});
+
+} // namespace verdane
