@@ -3,6 +3,8 @@
 namespace verdane {
 
 // Placeholder until the INI reader is in.
-Texte LireDonneesIni(Contexte&, const Texte&) { return {}; }
+Texte LireDonneesIni(Contexte&, const Texte&) {
+    return {};
+}
 
 } // namespace verdane

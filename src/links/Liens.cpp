@@ -30,7 +30,9 @@ void OuvrirDansEditeur(Contexte& ctx, const Texte& chemin) {
          "Erreur détectée :  cliquez Fermer pour continuer", ""});
 }
 
-void AfficherDocument(Contexte& ctx, const Texte& chemin) { OuvrirDansEditeur(ctx, chemin); }
+void AfficherDocument(Contexte& ctx, const Texte& chemin) {
+    OuvrirDansEditeur(ctx, chemin);
+}
 
 void SauverSous(Contexte& ctx, bool fermeture, Editeur editeur, const Texte& chemin,
                 bool confirmer) {

@@ -38,10 +38,9 @@ struct Options {
     std::int16_t sautParagraphe = 1;
     std::int16_t SansDemarrage = 0;
     // Six pairs of default cell frames (label, value) for the six kinds of row.
-    std::array<Texte, 12> FormatsDefaut = {kFormatDefaut, kFormatDefaut, kFormatDefaut,
-                                           kFormatDefaut, kFormatDefaut, kFormatDefaut,
-                                           kFormatDefaut, kFormatDefaut, kFormatDefaut,
-                                           kFormatDefaut, kFormatDefaut, kFormatDefaut};
+    std::array<Texte, 12> FormatsDefaut = {
+        kFormatDefaut, kFormatDefaut, kFormatDefaut, kFormatDefaut, kFormatDefaut, kFormatDefaut,
+        kFormatDefaut, kFormatDefaut, kFormatDefaut, kFormatDefaut, kFormatDefaut, kFormatDefaut};
     std::int16_t SansAnnotation = 1;
     std::int16_t CouleurAnnotation = 0;
     std::int16_t ConvertirViaOO = 0;

@@ -1,7 +1,7 @@
 #include "utils/Binaire.h"
 
-#include <bit>
 #include <algorithm>
+#include <bit>
 
 namespace verdane {
 
@@ -13,10 +13,13 @@ std::uint8_t LecteurBinaire::Lire(std::size_t i) {
     return static_cast<std::uint8_t>(octets_[i]);
 }
 
-std::uint8_t LecteurBinaire::Octet() { return Lire(position_++); }
+std::uint8_t LecteurBinaire::Octet() {
+    return Lire(position_++);
+}
 
 std::int16_t LecteurBinaire::I16() {
-    const std::uint16_t v = static_cast<std::uint16_t>(Lire(position_) | (Lire(position_ + 1) << 8));
+    const std::uint16_t v =
+        static_cast<std::uint16_t>(Lire(position_) | (Lire(position_ + 1) << 8));
     position_ += 2;
     return static_cast<std::int16_t>(v);
 }
@@ -28,7 +31,9 @@ std::int32_t LecteurBinaire::I32() {
     return static_cast<std::int32_t>(v);
 }
 
-float LecteurBinaire::F32() { return std::bit_cast<float>(static_cast<std::uint32_t>(I32())); }
+float LecteurBinaire::F32() {
+    return std::bit_cast<float>(static_cast<std::uint32_t>(I32()));
+}
 
 double LecteurBinaire::F64() {
     std::uint64_t v = 0;
@@ -60,7 +65,9 @@ void EcrivainBinaire::I32(std::int32_t v) {
     for (int k = 0; k < 4; ++k, u >>= 8) octets_ += static_cast<char>(u & 0xFF);
 }
 
-void EcrivainBinaire::F32(float v) { I32(static_cast<std::int32_t>(std::bit_cast<std::uint32_t>(v))); }
+void EcrivainBinaire::F32(float v) {
+    I32(static_cast<std::int32_t>(std::bit_cast<std::uint32_t>(v)));
+}
 
 void EcrivainBinaire::F64(double v) {
     auto u = std::bit_cast<std::uint64_t>(v);

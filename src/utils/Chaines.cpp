@@ -9,11 +9,16 @@ char Majuscule(char c) {
     if (u >= 'a' && u <= 'z') return static_cast<char>(u - 32);
     if ((u >= 0xE0 && u <= 0xFE && u != 0xF7)) return static_cast<char>(u - 32);
     switch (u) {
-    case 0x9A: return static_cast<char>(0x8A); // š
-    case 0x9C: return static_cast<char>(0x8C); // œ
-    case 0x9E: return static_cast<char>(0x8E); // ž
-    case 0xFF: return static_cast<char>(0x9F); // ÿ
-    default: return c;
+    case 0x9A:
+        return static_cast<char>(0x8A); // š
+    case 0x9C:
+        return static_cast<char>(0x8C); // œ
+    case 0x9E:
+        return static_cast<char>(0x8E); // ž
+    case 0xFF:
+        return static_cast<char>(0x9F); // ÿ
+    default:
+        return c;
     }
 }
 
@@ -22,11 +27,16 @@ char Minuscule(char c) {
     if (u >= 'A' && u <= 'Z') return static_cast<char>(u + 32);
     if ((u >= 0xC0 && u <= 0xDE && u != 0xD7)) return static_cast<char>(u + 32);
     switch (u) {
-    case 0x8A: return static_cast<char>(0x9A);
-    case 0x8C: return static_cast<char>(0x9C);
-    case 0x8E: return static_cast<char>(0x9E);
-    case 0x9F: return static_cast<char>(0xFF);
-    default: return c;
+    case 0x8A:
+        return static_cast<char>(0x9A);
+    case 0x8C:
+        return static_cast<char>(0x9C);
+    case 0x8E:
+        return static_cast<char>(0x9E);
+    case 0x9F:
+        return static_cast<char>(0xFF);
+    default:
+        return c;
     }
 }
 
@@ -62,7 +72,8 @@ bool FinitPar(std::string_view texte, std::string_view fin) {
 }
 
 bool FinitParSansCasse(std::string_view texte, std::string_view fin) {
-    return texte.size() >= fin.size() && EgalSansCasse(texte.substr(texte.size() - fin.size()), fin);
+    return texte.size() >= fin.size() &&
+           EgalSansCasse(texte.substr(texte.size() - fin.size()), fin);
 }
 
 std::size_t TrouverSansCasse(std::string_view texte, std::string_view cherche, std::size_t depart) {

@@ -15,8 +15,9 @@ namespace {
 std::string SuffixeAleatoire() {
     static constexpr char kChiffres[] = "0123456789abcdefghijklmnopqrstuvwxyz";
     std::random_device source;
-    std::mt19937_64 gen(source() ^ static_cast<std::uint64_t>(
-                                       std::chrono::steady_clock::now().time_since_epoch().count()));
+    std::mt19937_64 gen(
+        source() ^
+        static_cast<std::uint64_t>(std::chrono::steady_clock::now().time_since_epoch().count()));
     std::string s;
     for (int i = 0; i < 10; ++i) s += kChiffres[gen() % 36];
     return s;

@@ -40,7 +40,9 @@ std::optional<fs::path> EntreeSansCasse(const fs::path& dossier, const Texte& no
 
 } // namespace
 
-bool EstSeparateur(char c) { return c == '\\' || c == '/'; }
+bool EstSeparateur(char c) {
+    return c == '\\' || c == '/';
+}
 
 Texte AjouterBarre(std::string_view chemin) {
     Texte t = Rogner(chemin);
@@ -78,7 +80,9 @@ fs::path CheminSysteme(std::string_view chemin) {
     return resultat;
 }
 
-Texte CheminTexte(const fs::path& chemin) { return Utf8VersCp1252(chemin.string()); }
+Texte CheminTexte(const fs::path& chemin) {
+    return Utf8VersCp1252(chemin.string());
+}
 
 bool FichierExiste(std::string_view chemin, std::int16_t attributs) {
     if (Rogner(chemin).empty()) return false;
@@ -128,15 +132,21 @@ void CreerChemin(std::string_view chemin) {
 Texte UrlFichier(std::string_view chemin) {
     Texte url = "file:///";
     for (char c : chemin) {
-        if (c == '\\') url += '/';
-        else if (c == ':') url += '|';
-        else if (c == ' ') url += "%20";
-        else url += c;
+        if (c == '\\')
+            url += '/';
+        else if (c == ':')
+            url += '|';
+        else if (c == ' ')
+            url += "%20";
+        else
+            url += c;
     }
     return url;
 }
 
-std::size_t DerniereBarre(std::string_view chemin) { return chemin.find_last_of("\\/"); }
+std::size_t DerniereBarre(std::string_view chemin) {
+    return chemin.find_last_of("\\/");
+}
 
 Texte NomFichier(std::string_view chemin) {
     const auto p = DerniereBarre(chemin);

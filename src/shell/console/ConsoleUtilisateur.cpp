@@ -11,20 +11,28 @@ namespace {
 
 const char* NomReponse(Reponse r) {
     switch (r) {
-    case Reponse::Ok: return "OK";
-    case Reponse::Oui: return "Oui";
-    case Reponse::Non: return "Non";
-    case Reponse::Annuler: return "Annuler";
+    case Reponse::Ok:
+        return "OK";
+    case Reponse::Oui:
+        return "Oui";
+    case Reponse::Non:
+        return "Non";
+    case Reponse::Annuler:
+        return "Annuler";
     }
     return "";
 }
 
 std::vector<Reponse> Choix(Boutons b) {
     switch (b) {
-    case Boutons::Ok: return {Reponse::Ok};
-    case Boutons::OuiNon: return {Reponse::Oui, Reponse::Non};
-    case Boutons::OuiNonAnnuler: return {Reponse::Oui, Reponse::Non, Reponse::Annuler};
-    case Boutons::OkAnnuler: return {Reponse::Ok, Reponse::Annuler};
+    case Boutons::Ok:
+        return {Reponse::Ok};
+    case Boutons::OuiNon:
+        return {Reponse::Oui, Reponse::Non};
+    case Boutons::OuiNonAnnuler:
+        return {Reponse::Oui, Reponse::Non, Reponse::Annuler};
+    case Boutons::OkAnnuler:
+        return {Reponse::Ok, Reponse::Annuler};
     }
     return {Reponse::Ok};
 }

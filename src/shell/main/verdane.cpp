@@ -1,1 +1,31 @@
-int main() { return 0; }
+// verdane: the program, started with a job on its command line.
+
+#include "shell/Demarrage.h"
+#include "shell/console/ConsoleUtilisateur.h"
+
+#include <cstdlib>
+#include <filesystem>
+#include <memory>
+#include <system_error>
+
+namespace {
+
+std::string DossierDuProgramme(const char* argv0) {
+    std::error_code ec;
+    auto chemin = std::filesystem::read_symlink("/proc/self/exe", ec);
+    if (ec) chemin = std::filesystem::absolute(argv0 ? argv0 : "", ec);
+    return chemin.parent_path().string() + "/";
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    using namespace verdane;
+    ConsoleUtilisateur console;
+    auto ctx = std::make_unique<Contexte>(console);
+    Environnement env;
+    env.dossierProgramme = Utf8VersCp1252(DossierDuProgramme(argc > 0 ? argv[0] : nullptr));
+    if (const char* home = std::getenv("MARLO_HOME")) env.marloHome = Utf8VersCp1252(home);
+    const auto ligne = LigneCommande::DepuisArguments(argc, argv);
+    return ExecuterProgramme(*ctx, ligne, env);
+}

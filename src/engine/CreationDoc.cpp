@@ -1,0 +1,349 @@
+#include "engine/CreationDoc.h"
+
+#include "data/ChargerDossier.h"
+#include "engine/LectureModele.h"
+#include "links/Liens.h"
+#include "utils/Chaines.h"
+#include "utils/EcritureSure.h"
+#include "utils/GestFontTable.h"
+#include "utils/OutilsFichiers.h"
+
+#include <algorithm>
+
+namespace verdane {
+namespace {
+
+constexpr int kLargeurJauge = 2970;
+constexpr std::size_t kLimiteCodeCreation = 20000;
+constexpr std::size_t kLimiteCodeMiseAJour = 200000;
+constexpr std::string_view kFinDeLigne = "\r\n";
+constexpr std::string_view kDebutValeur = "{\\v #debdata#}";
+constexpr std::string_view kFinValeur = "{\\v #findata=#mrl(";
+
+// The output of a run: written beside the result and put in place once complete.
+class Sortie {
+public:
+    explicit Sortie(std::string_view chemin) : fichier_(chemin) {}
+    bool Ouverte() const { return fichier_.Ouvert(); }
+    void Ecrire(std::string_view t) { fichier_.Ecrire(t); }
+    void EcrireLigne(std::string_view t) {
+        fichier_.Ecrire(t);
+        fichier_.Ecrire(kFinDeLigne);
+    }
+    bool Valider() { return fichier_.Valider(); }
+
+private:
+    FichierSur fichier_;
+};
+
+void AvancerJauge(Contexte& ctx) {
+    Etat& e = ctx.etat;
+    ++e.CodesFaits;
+    if (e.NbCodes <= 0) return;
+    const int pourcent = std::min(100, 100 * e.CodesFaits / e.NbCodes);
+    ctx.utilisateur.PoserJauge(pourcent * kLargeurJauge / 100, std::to_string(pourcent) + " %");
+}
+
+// Step of a hidden paragraph: the first "\par" loses "ar" and the character behind it, so the
+// paragraph end hidden by a false condition goes away.
+void MangerParagraphe(Texte& p) {
+    const auto n = p.find("\\par");
+    if (n == Texte::npos) return;
+    p.erase(n + 2, std::min<std::size_t>(3, p.size() - (n + 2)));
+}
+
+// The document information group: codes in it aren't interpreted. Returns false when the
+// whole piece was written.
+bool PasserInformations(Sortie& sortie, Texte& p) {
+    const auto titre = p.find("\\title");
+    if (titre == Texte::npos) return true;
+    std::string_view mot = "\\author";
+    auto n = p.find(mot, titre);
+    if (n == Texte::npos) {
+        mot = "\\company";
+        n = p.find(mot);
+    }
+    if (n == Texte::npos) {
+        sortie.EcrireLigne(p);
+        return false;
+    }
+    sortie.Ecrire(std::string_view(p).substr(0, n + mot.size()));
+    p.erase(0, n + mot.size());
+    return true;
+}
+
+void AjouterTablesRtf(Contexte& ctx, Texte& p) {
+    AjouterPolices(p);
+    if (p.find("{\\colortbl;") != Texte::npos) ctx.etat.decalageCouleurs = AjouterCouleurs(p);
+}
+
+// A mark split by a bookmark of Word: "#mrl{\*\bkmkend DDE_LINK}(".
+void ReparerSignets(Texte& p) {
+    for (const char* signet : {"DDE_LINK", "DDE_LINK1", "DDE_LINK2"}) {
+        const Texte coupe = Texte("#mrl{\\*\\bkmkend ") + signet + "}(";
+        const auto n = p.find(coupe);
+        if (n != Texte::npos)
+            p.replace(n, coupe.size(), Texte("{\\*\\bkmkend ") + signet + "}#mrl(");
+    }
+}
+
+void SignalerBaliseManquante(Contexte& ctx, const Texte& p) {
+    Texte extrait = p.size() > 65 ? p.substr(0, 62) + "..." : p;
+    ctx.utilisateur.AfficherMessage(
+        {"Verdane ne trouve pas la balise de fin d'un code à interpréter dans le modèle de "
+         "document utilisé pour la création.",
+         "Le code concerné est : " + extrait +
+             "\r\nModifier le modèle de document en conséquence pour ne plus voir apparaître "
+             "cette erreur.",
+         "Le modèle de document comporte une erreur !", ""});
+}
+
+Texte PlainteBaliseManquante() {
+    return "Verdane n'a pas pû interpréter le code qui suit car il n'a pas trouvé la balise de "
+           "fin \")#\" : ";
+}
+
+// The main loop of a creation.
+void Creer(Contexte& ctx, std::vector<Texte>& morceaux, Sortie& sortie) {
+    Etat& e = ctx.etat;
+    const std::size_t nb = morceaux.size();
+    for (std::size_t i = 0; i < nb; ++i) {
+        Texte p = std::move(morceaux[i]);
+        const bool dernier = i + 1 == nb;
+        for (;;) { // a piece is treated again behind each code
+            if (!e.SuiteVisible) {
+                MangerParagraphe(p);
+                e.SuiteVisible = true;
+            }
+            // The program's fonts and colours join the model's tables before anything of the
+            // piece is written, the information group included.
+            AjouterTablesRtf(ctx, p);
+            if (!PasserInformations(sortie, p)) break;
+            ReparerSignets(p);
+            const auto n = TrouverSansCasse(p, "#mrl(");
+            if (n == Texte::npos) {
+                const std::size_t queue = std::min<std::size_t>(6, p.size());
+                if (!dernier && p.find('#', p.size() - queue) != Texte::npos) {
+                    // The start of a mark may lie in the last characters: they go on with the
+                    // next piece; what stands before them is written now.
+                    sortie.Ecrire(std::string_view(p).substr(0, p.size() - queue));
+                    morceaux[i + 1].insert(0, p, p.size() - queue, queue);
+                } else {
+                    sortie.EcrireLigne(p);
+                }
+                break;
+            }
+            sortie.Ecrire(std::string_view(p).substr(0, n));
+            p.erase(0, n);
+            const auto fin = TrouverSansCasse(p, ")#");
+            if (fin != Texte::npos) {
+                Texte code = p.substr(0, fin + 2);
+                Texte reste = p.substr(fin + 2);
+                e.SuiteVisible = ctx.analyseur->Analyser(ctx, code, false, false);
+                AvancerJauge(ctx);
+                sortie.EcrireLigne(code);
+                if (reste.empty()) break;
+                p = std::move(reste);
+                continue;
+            }
+            if (p.size() < kLimiteCodeCreation && !dernier) {
+                morceaux[i + 1].insert(0, p); // a code may span pieces up to that size
+                break;
+            }
+            SignalerBaliseManquante(ctx, p);
+            // The complaint stands in the result, before the text it is about.
+            sortie.EcrireLigne(PlainteBaliseManquante() + p);
+            break;
+        }
+    }
+}
+
+// The main loop of an update. Each value standing between a start marker and its end marker
+// is replaced by the value of the code that the end marker keeps; the markers and everything
+// around them stay, so the document can be refreshed again.
+void MettreAJour(Contexte& ctx, std::vector<Texte>& morceaux, Sortie& sortie) {
+    Etat& e = ctx.etat;
+    const std::size_t nb = morceaux.size();
+    for (std::size_t i = 0; i < nb; ++i) {
+        Texte p = std::move(morceaux[i]);
+        const bool dernier = i + 1 == nb;
+        if (!PasserInformations(sortie, p)) continue;
+        for (;;) {
+            const auto debut = TrouverSansCasse(p, kDebutValeur);
+            if (debut == Texte::npos) {
+                sortie.EcrireLigne(p);
+                break;
+            }
+            const auto valeur = debut + kDebutValeur.size();
+            const auto marque = TrouverSansCasse(p, kFinValeur, valeur);
+            const auto fin =
+                marque == Texte::npos ? Texte::npos : TrouverSansCasse(p, ")#", marque);
+            if (fin == Texte::npos) {
+                sortie.Ecrire(std::string_view(p).substr(0, debut));
+                p.erase(0, debut);
+                if (!dernier && p.size() < kLimiteCodeMiseAJour)
+                    morceaux[i + 1].insert(0, p);
+                else
+                    sortie.EcrireLigne(p);
+                break;
+            }
+            const auto interieur = marque + kFinValeur.size();
+            Texte code = "#mrl(" + p.substr(interieur, fin - interieur) + ")#";
+            ctx.analyseur->Analyser(ctx, code, false, true);
+            sortie.Ecrire(std::string_view(p).substr(0, valeur));
+            sortie.Ecrire(code);
+            sortie.Ecrire(std::string_view(p).substr(marque, fin + 2 - marque));
+            ++e.ChampsMaj;
+            AvancerJauge(ctx);
+            p.erase(0, fin + 2);
+        }
+    }
+}
+
+// Update of a Word document: a copy in RTF is made through the word processor first. Returns
+// the path of the copy, or nothing when the update can't go on.
+std::optional<Texte> CopieRtfPourMiseAJour(Contexte& ctx, const Texte& document) {
+    const Texte souche = document.substr(0, document.size() - 4);
+    const auto reponse = ctx.utilisateur.Question(
+        "Pour mettre à jour votre document MS Word, Verdane va devoir créer une copie convertie "
+        "au RTF.\r\nSouhaitez-vous continuer en autorisant la création de " +
+            souche +
+            ".rtf ?\r\n( si un fichier de ce nom existe déjà dans ce répertoire, il sera alors "
+            "perdu ! )",
+        "Verdane utilise le format texte enrichi ( RTF ) !", Boutons::OkAnnuler, Reponse::Ok,
+        Icone::Information);
+    if (reponse != Reponse::Ok) {
+        ctx.utilisateur.Sablier(false);
+        ctx.utilisateur.Boite("Mise à jour annulée par l'utilisateur.", "", Icone::Information);
+        return std::nullopt;
+    }
+    const Editeur editeur = EditeurLie(ctx.etat);
+    PiloteEditeur* pilote = ctx.Pilote(editeur);
+    if (!pilote) {
+        OuvrirDansEditeur(ctx, document); // says that no word processor is linked
+        return std::nullopt;
+    }
+    const Texte copie = souche + ".rtf";
+    pilote->OuvrirDocument(document);
+    SauverSous(ctx, false, editeur, copie, false);
+    pilote->FermerDocument(7);
+    ctx.utilisateur.Boite("Verdane a terminé la conversion au RTF de votre document MS Word.\r\n"
+                          "La mise à jour du document MS Word va pouvoir se faire à partir de "
+                          "la copie RTF.",
+                          "Cliquez OK pour lancer la mise à jour !", Icone::Information);
+    if (!FichierExiste(copie)) return std::nullopt;
+    return copie;
+}
+
+void Terminer(Contexte& ctx, const Texte& modele, const Texte& resultat, bool miseAJour,
+              bool sansOuverture, bool copieDoc) {
+    Etat& e = ctx.etat;
+    if (e.NbCodes > 0) {
+        ctx.utilisateur.PoserJauge(kLargeurJauge, miseAJour
+                                                      ? "        " + std::to_string(e.ChampsMaj) +
+                                                            " champs mis à jour !"
+                                                      : "            Création terminée !");
+        ctx.utilisateur.FermerJauge();
+    }
+    const Editeur editeur = EditeurLie(e);
+    if (e.options.ConvertirViaOO != 0 && ctx.Pilote(Editeur::OpenOffice)) {
+        ctx.Pilote(Editeur::OpenOffice)->OuvrirDocument(resultat);
+        const Texte doc =
+            resultat.size() >= 3 ? resultat.substr(0, resultat.size() - 3) + "doc" : resultat;
+        if (editeur == Editeur::OpenOffice) {
+            SauverSous(ctx, false, Editeur::OpenOffice, doc, false);
+            sansOuverture = true;
+        } else {
+            SauverSous(ctx, true, Editeur::OpenOffice, doc, false);
+        }
+    }
+    const Texte document = miseAJour ? modele : resultat;
+    if (!sansOuverture) AfficherDocument(ctx, document);
+    if ((miseAJour || !FinitParSansCasse(resultat, ".RTF")) && ctx.Pilote(editeur)) {
+        if (sansOuverture) ctx.Pilote(editeur)->OuvrirDocument(document);
+        SauverSous(ctx, sansOuverture, editeur, resultat, false);
+    }
+    // The RTF copy made for the update of a Word document goes away once the document has its
+    // figures back.
+    if (copieDoc) SupprimerFichier(modele);
+}
+
+} // namespace
+
+Texte NomJauge(const Texte& nom) {
+    if (nom.size() <= 32) return nom;
+    return nom.substr(0, 3) + "..." + nom.substr(nom.size() - 30);
+}
+
+IssueCreation CreerDocument(Contexte& ctx, const Texte& modeleDemande, const Texte& resultat,
+                            bool miseAJour, bool sansOuverture, bool demanderRemplacement) {
+    Etat& e = ctx.etat;
+    ChargerDossier(ctx);
+    if (e.anneesPDE) e.nbAnEtude = static_cast<std::int16_t>(*e.anneesPDE == 0 ? 5 : *e.anneesPDE);
+    e.NumPageCourant = 0;
+    e.NbCouleursDoc = 0;
+    e.ModeMemeDossier = 0;
+    e.decalageCouleurs = 0;
+    e.NbCodes = 0;
+    e.CodesFaits = 0;
+    e.ChampsMaj = 0;
+    e.SuiteVisible = true;
+    if (Rogner(e.RepDossier[1]).empty()) e.RepDossier[1] = e.RepDossier[0];
+    if (Rogner(e.NomDossier[1]).empty()) e.NomDossier[1] = e.NomDossier[0];
+
+    Texte modele = Rogner(modeleDemande);
+    if (modele.empty()) return IssueCreation::Abandonnee;
+    if (!miseAJour && demanderRemplacement && FichierExiste(resultat)) {
+        const auto r = ctx.utilisateur.Question(
+            "Le document demandé existe déjà !\r\nVoulez-vous le remplacer ?", "Verdane",
+            Boutons::OuiNon, Reponse::Non, Icone::Attention);
+        if (r != Reponse::Oui) return IssueCreation::Abandonnee;
+    }
+    ctx.utilisateur.Sablier(true);
+    bool copieDoc = false;
+    if (miseAJour && FinitParSansCasse(modele, ".doc")) {
+        const auto copie = CopieRtfPourMiseAJour(ctx, modele);
+        if (!copie) return IssueCreation::Abandonnee;
+        modele = *copie;
+        copieDoc = true;
+    }
+
+    const auto contenu = LireFichier(modele);
+    if (!contenu || !FichierExiste(modele)) {
+        ctx.utilisateur.Sablier(false);
+        ctx.utilisateur.AfficherMessage({"Le modèle de document est introuvable ou illisible :",
+                                         modele, "Création impossible", ""});
+        return IssueCreation::ModeleIllisible;
+    }
+    ModeleEnMorceaux lu = DecouperModele(*contenu);
+    e.NbCodes = lu.NbCodes;
+
+    const Texte cible = miseAJour ? modele : resultat;
+    Sortie sortie(cible);
+    if (!sortie.Ouverte()) {
+        ctx.utilisateur.Sablier(false);
+        ctx.utilisateur.AfficherMessage(
+            {"Le document résultat ne peut pas être écrit :", cible,
+             "Vérifiez que le répertoire existe et que vous pouvez y écrire.", ""});
+        return IssueCreation::ResultatImpossible;
+    }
+    if (e.NbCodes > 0) ctx.utilisateur.OuvrirJauge(miseAJour ? NomJauge(NomFichier(resultat)) : "");
+
+    if (miseAJour)
+        MettreAJour(ctx, lu.Morceaux, sortie);
+    else
+        Creer(ctx, lu.Morceaux, sortie);
+
+    if (!sortie.Valider()) {
+        if (e.NbCodes > 0) ctx.utilisateur.FermerJauge();
+        ctx.utilisateur.Sablier(false);
+        ctx.utilisateur.AfficherMessage({"Le document résultat ne peut pas être écrit :", cible,
+                                         "L'écriture du document a échoué.", ""});
+        return IssueCreation::ResultatImpossible;
+    }
+    Terminer(ctx, modele, resultat, miseAJour, sansOuverture, copieDoc);
+    ctx.utilisateur.Sablier(false);
+    return IssueCreation::Faite;
+}
+
+} // namespace verdane

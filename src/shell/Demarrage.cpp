@@ -1,0 +1,90 @@
+#include "shell/Demarrage.h"
+
+#include "data/ChargerDossier.h"
+#include "engine/CreationDoc.h"
+#include "shell/Chemins.h"
+#include "shell/Options.h"
+#include "shell/Parametres.h"
+#include "utils/Chaines.h"
+#include "utils/OutilsFichiers.h"
+
+namespace verdane {
+namespace {
+
+int TravailIni(Contexte& ctx, const LigneCommande& ligne) {
+    const Texte modele = Remplacer(ligne.Argument(2), "#esp#", " ");
+    const Texte resultat = Remplacer(ligne.Argument(3), "#esp#", " ");
+    ctx.etat.RepDossier[0].clear();
+    ctx.etat.NomDossier[0].clear();
+    const bool ouvrir = Minuscules(ligne.Argument(4)) == "ouvrir";
+    const bool remplacer = Minuscules(ligne.Argument(5)) == "remplacer";
+    const auto issue = CreerDocument(ctx, modele, resultat, false, !ouvrir, !remplacer);
+    switch (issue) {
+    case IssueCreation::Faite:
+    case IssueCreation::Abandonnee:
+        return kSortieFaite;
+    case IssueCreation::ModeleIllisible:
+    case IssueCreation::ResultatImpossible:
+        return kSortieEchec;
+    }
+    return kSortieEchec;
+}
+
+int TravailSansFenetre(Contexte& ctx, const Texte& travail) {
+    ctx.utilisateur.AfficherMessage(
+        {"Cette version de Verdane n'a pas de fenêtre pour le travail " + travail + ".",
+         "Dossier chargé : " + DossierComplet(ctx.etat, 0) +
+             "\r\nPour créer un document d'un dossier sans fenêtre, utilisez verdane-lot.",
+         "Verdane", ""});
+    return kSortieUsage;
+}
+
+} // namespace
+
+bool Initialiser(Contexte& ctx, const Environnement& env) {
+    InitialiserChemins(ctx.etat, env.dossierProgramme, env.marloHome);
+    ChargerOptions(ctx.etat);
+    return ChargerParametres(ctx);
+}
+
+void PreparerDossierLigneCommande(Contexte& ctx, const LigneCommande& ligne) {
+    Texte chemin = AjouterBarre(Remplacer(ligne.Argument(2), "#mrl#", " "));
+    chemin.pop_back();
+    const auto p = DerniereBarre(chemin);
+    if (p != Texte::npos) {
+        ctx.etat.RepDossier[0] = chemin.substr(0, p + 1);
+        ctx.etat.NomDossier[0] = chemin.substr(p + 1);
+    }
+    ChargerDossier(ctx);
+}
+
+int ExecuterProgramme(Contexte& ctx, const LigneCommande& ligne, const Environnement& env) {
+    if (!Initialiser(ctx, env)) return kSortieEchec;
+    if (ligne.NbArguments() == 0) {
+        ctx.utilisateur.AfficherMessage(
+            {"La barre d'outils de Verdane n'est pas encore disponible dans cette version.",
+             "Usage : verdane INI <modèle> <résultat> [ouvrir] [remplacer]\r\n"
+             "        verdane OUVRIR|CREER|CERFA|GRAPH <dossier> [document]",
+             "Verdane", ""});
+        return kSortieUsage;
+    }
+    const Texte travail = Majuscules(ligne.Argument(1));
+    int sortie = kSortieFaite;
+    if (travail == "INI") {
+        sortie = TravailIni(ctx, ligne);
+    } else if (travail == "OUVRIR" || travail == "CREER" || travail == "CERFA" ||
+               travail == "GRAPH") {
+        PreparerDossierLigneCommande(ctx, ligne);
+        sortie = TravailSansFenetre(ctx, travail);
+    } else {
+        ctx.utilisateur.AfficherMessage({"Travail inconnu : " + ligne.Argument(1),
+                                         "Les travaux sont INI, OUVRIR, CREER, CERFA et GRAPH.",
+                                         "Verdane", ""});
+        return kSortieUsage;
+    }
+    // The options are saved when the program ends, as they are after a job.
+    EnregistrerOptions(ctx.etat);
+    return sortie;
+}
+
+} // namespace verdane

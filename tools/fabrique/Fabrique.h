@@ -1,0 +1,33 @@
+#pragma once
+// Makers of the binary files of a Marlo installation from their descriptions.
+
+#include "Description.h"
+
+#include <optional>
+#include <string>
+
+namespace verdane::fabrique {
+
+// The dossier record: one section [dossier] whose keys are the record's fields; arrays as
+// nomAssocie1 ... nomAssocie10, produit1 ... produit6 (modeCom1 ...); descProjet repeated,
+// one key a line.
+std::string FabriquerDossier(const std::vector<Section>& description);
+// A series file: one section a record, named by its number: [12] with code=, libelle=,
+// valeurs= (year 0 first, ";" between). Records not described are left blank.
+std::string FabriquerDon(const std::vector<Section>& description);
+// The parameter file: [organisme 0], [organisme 1] ... with nom, rue, ville, sigle, tel, fax,
+// logo.
+std::string FabriquerParametres(const std::vector<Section>& description);
+// The options file: keys named as the options, RepDossier0 ... NomDossier5 for the dossiers.
+std::string FabriquerOptions(const std::vector<Section>& description);
+
+// By the kind of a description file (the extension before ".txt": dossier, don, par, svg):
+// the name of the file to write and its bytes; nothing for a file that is copied as it is.
+struct Fabrication {
+    std::string nom;
+    std::string octets;
+};
+std::optional<Fabrication> Fabriquer(const std::string& nomDescription, std::string_view utf8,
+                                     std::string_view racine);
+
+} // namespace verdane::fabrique
