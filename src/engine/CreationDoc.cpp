@@ -9,6 +9,7 @@
 #include "utils/OutilsFichiers.h"
 
 #include <algorithm>
+#include <array>
 
 namespace verdane {
 namespace {
@@ -44,51 +45,74 @@ void AvancerJauge(Contexte& ctx) {
     ctx.utilisateur.PoserJauge(pourcent * kLargeurJauge / 100, std::to_string(pourcent) + " %");
 }
 
+// A piece being treated: its text and the offset of what is left of it. Searches that found
+// nothing in the rest are not made again: the rest only shrinks, so they can't succeed later.
+struct Morceau {
+    Texte p;
+    std::size_t o = 0;
+    bool sansTitre = false;
+    bool sansPolices = false;
+    bool sansCouleurs = false;
+    std::array<bool, 3> sansSignet{};
+
+    std::string_view Reste() const { return std::string_view(p).substr(o); }
+};
+
 // Step of a hidden paragraph: the first "\par" loses "ar" and the character behind it, so the
 // paragraph end hidden by a false condition goes away.
-void MangerParagraphe(Texte& p) {
-    const auto n = p.find("\\par");
+void MangerParagraphe(Morceau& m) {
+    const auto n = m.p.find("\\par", m.o);
     if (n == Texte::npos) return;
-    p.erase(n + 2, std::min<std::size_t>(3, p.size() - (n + 2)));
+    m.p.erase(n + 2, std::min<std::size_t>(3, m.p.size() - (n + 2)));
 }
 
 // The document information group: codes in it aren't interpreted. Returns false when the
-// whole piece was written.
-bool PasserInformations(Sortie& sortie, Texte& p) {
-    const auto titre = p.find("\\title");
-    if (titre == Texte::npos) return true;
+// whole rest was written.
+bool PasserInformations(Sortie& sortie, Morceau& m) {
+    if (m.sansTitre) return true;
+    const auto titre = m.p.find("\\title", m.o);
+    if (titre == Texte::npos) {
+        m.sansTitre = true;
+        return true;
+    }
     std::string_view mot = "\\author";
-    auto n = p.find(mot, titre);
+    auto n = m.p.find(mot, titre);
     if (n == Texte::npos) {
         mot = "\\company";
-        n = p.find(mot);
+        n = m.p.find(mot, m.o);
     }
     if (n == Texte::npos) {
-        sortie.EcrireLigne(p);
+        sortie.EcrireLigne(m.Reste());
         return false;
     }
-    sortie.Ecrire(std::string_view(p).substr(0, n + mot.size()));
-    p.erase(0, n + mot.size());
+    sortie.Ecrire(std::string_view(m.p).substr(m.o, n + mot.size() - m.o));
+    m.o = n + mot.size();
     return true;
 }
 
-void AjouterTablesRtf(Contexte& ctx, Texte& p) {
-    AjouterPolices(p);
-    if (p.find("{\\colortbl;") != Texte::npos) ctx.etat.decalageCouleurs = AjouterCouleurs(p);
-}
-
-// A mark split by a bookmark of Word: "#mrl{\*\bkmkend DDE_LINK}(".
-void ReparerSignets(Texte& p) {
-    for (const char* signet : {"DDE_LINK", "DDE_LINK1", "DDE_LINK2"}) {
-        const Texte coupe = Texte("#mrl{\\*\\bkmkend ") + signet + "}(";
-        const auto n = p.find(coupe);
-        if (n != Texte::npos)
-            p.replace(n, coupe.size(), Texte("{\\*\\bkmkend ") + signet + "}#mrl(");
+void AjouterTablesRtf(Contexte& ctx, Morceau& m) {
+    if (!m.sansPolices) m.sansPolices = !AjouterPolices(m.p, m.o);
+    if (!m.sansCouleurs) {
+        const auto decalage = AjouterCouleurs(m.p, m.o);
+        if (decalage) ctx.etat.decalageCouleurs = *decalage;
+        else m.sansCouleurs = true;
     }
 }
 
-void SignalerBaliseManquante(Contexte& ctx, const Texte& p) {
-    Texte extrait = p.size() > 65 ? p.substr(0, 62) + "..." : p;
+// A mark split by a bookmark of Word: "#mrl{\*\bkmkend DDE_LINK}(".
+void ReparerSignets(Morceau& m) {
+    static constexpr std::array<const char*, 3> kSignets = {"DDE_LINK", "DDE_LINK1", "DDE_LINK2"};
+    for (std::size_t i = 0; i < kSignets.size(); ++i) {
+        if (m.sansSignet[i]) continue;
+        const Texte coupe = Texte("#mrl{\\*\\bkmkend ") + kSignets[i] + "}(";
+        const auto n = m.p.find(coupe, m.o);
+        if (n == Texte::npos) m.sansSignet[i] = true;
+        else m.p.replace(n, coupe.size(), Texte("{\\*\\bkmkend ") + kSignets[i] + "}#mrl(");
+    }
+}
+
+void SignalerBaliseManquante(Contexte& ctx, std::string_view p) {
+    const Texte extrait = p.size() > 65 ? Texte(p.substr(0, 62)) + "..." : Texte(p);
     ctx.utilisateur.AfficherMessage(
         {"Verdane ne trouve pas la balise de fin d'un code à interpréter dans le modèle de "
          "document utilisé pour la création.",
@@ -108,51 +132,52 @@ void Creer(Contexte& ctx, std::vector<Texte>& morceaux, Sortie& sortie) {
     Etat& e = ctx.etat;
     const std::size_t nb = morceaux.size();
     for (std::size_t i = 0; i < nb; ++i) {
-        Texte p = std::move(morceaux[i]);
+        Morceau m;
+        m.p = std::move(morceaux[i]);
         const bool dernier = i + 1 == nb;
         for (;;) { // a piece is treated again behind each code
             if (!e.SuiteVisible) {
-                MangerParagraphe(p);
+                MangerParagraphe(m);
                 e.SuiteVisible = true;
             }
             // The program's fonts and colours join the model's tables before anything of the
             // piece is written, the information group included.
-            AjouterTablesRtf(ctx, p);
-            if (!PasserInformations(sortie, p)) break;
-            ReparerSignets(p);
-            const auto n = TrouverSansCasse(p, "#mrl(");
+            AjouterTablesRtf(ctx, m);
+            if (!PasserInformations(sortie, m)) break;
+            ReparerSignets(m);
+            const auto n = TrouverSansCasse(m.p, "#mrl(", m.o);
             if (n == Texte::npos) {
-                const std::size_t queue = std::min<std::size_t>(6, p.size());
-                if (!dernier && p.find('#', p.size() - queue) != Texte::npos) {
+                const std::string_view reste = m.Reste();
+                const std::size_t queue = std::min<std::size_t>(6, reste.size());
+                if (!dernier && reste.find('#', reste.size() - queue) != Texte::npos) {
                     // The start of a mark may lie in the last characters: they go on with the
                     // next piece; what stands before them is written now.
-                    sortie.Ecrire(std::string_view(p).substr(0, p.size() - queue));
-                    morceaux[i + 1].insert(0, p, p.size() - queue, queue);
+                    sortie.Ecrire(reste.substr(0, reste.size() - queue));
+                    morceaux[i + 1].insert(0, reste.substr(reste.size() - queue));
                 } else {
-                    sortie.EcrireLigne(p);
+                    sortie.EcrireLigne(reste);
                 }
                 break;
             }
-            sortie.Ecrire(std::string_view(p).substr(0, n));
-            p.erase(0, n);
-            const auto fin = TrouverSansCasse(p, ")#");
+            sortie.Ecrire(std::string_view(m.p).substr(m.o, n - m.o));
+            m.o = n;
+            const auto fin = TrouverSansCasse(m.p, ")#", n);
             if (fin != Texte::npos) {
-                Texte code = p.substr(0, fin + 2);
-                Texte reste = p.substr(fin + 2);
+                Texte code = m.p.substr(n, fin + 2 - n);
                 e.SuiteVisible = ctx.analyseur->Analyser(ctx, code, false, false);
                 AvancerJauge(ctx);
                 sortie.EcrireLigne(code);
-                if (reste.empty()) break;
-                p = std::move(reste);
+                m.o = fin + 2;
+                if (m.o >= m.p.size()) break;
                 continue;
             }
-            if (p.size() < kLimiteCodeCreation && !dernier) {
-                morceaux[i + 1].insert(0, p); // a code may span pieces up to that size
+            if (m.p.size() - n < kLimiteCodeCreation && !dernier) {
+                morceaux[i + 1].insert(0, m.Reste()); // a code may span pieces up to that size
                 break;
             }
-            SignalerBaliseManquante(ctx, p);
+            SignalerBaliseManquante(ctx, m.Reste());
             // The complaint stands in the result, before the text it is about.
-            sortie.EcrireLigne(PlainteBaliseManquante() + p);
+            sortie.EcrireLigne(PlainteBaliseManquante() + Texte(m.Reste()));
             break;
         }
     }
@@ -165,37 +190,37 @@ void MettreAJour(Contexte& ctx, std::vector<Texte>& morceaux, Sortie& sortie) {
     Etat& e = ctx.etat;
     const std::size_t nb = morceaux.size();
     for (std::size_t i = 0; i < nb; ++i) {
-        Texte p = std::move(morceaux[i]);
+        Morceau m;
+        m.p = std::move(morceaux[i]);
         const bool dernier = i + 1 == nb;
-        if (!PasserInformations(sortie, p)) continue;
+        if (!PasserInformations(sortie, m)) continue;
         for (;;) {
-            const auto debut = TrouverSansCasse(p, kDebutValeur);
+            const auto debut = TrouverSansCasse(m.p, kDebutValeur, m.o);
             if (debut == Texte::npos) {
-                sortie.EcrireLigne(p);
+                sortie.EcrireLigne(m.Reste());
                 break;
             }
             const auto valeur = debut + kDebutValeur.size();
-            const auto marque = TrouverSansCasse(p, kFinValeur, valeur);
+            const auto marque = TrouverSansCasse(m.p, kFinValeur, valeur);
             const auto fin =
-                marque == Texte::npos ? Texte::npos : TrouverSansCasse(p, ")#", marque);
+                marque == Texte::npos ? Texte::npos : TrouverSansCasse(m.p, ")#", marque);
             if (fin == Texte::npos) {
-                sortie.Ecrire(std::string_view(p).substr(0, debut));
-                p.erase(0, debut);
-                if (!dernier && p.size() < kLimiteCodeMiseAJour)
-                    morceaux[i + 1].insert(0, p);
-                else
-                    sortie.EcrireLigne(p);
+                sortie.Ecrire(std::string_view(m.p).substr(m.o, debut - m.o));
+                m.o = debut;
+                if (!dernier && m.p.size() - debut < kLimiteCodeMiseAJour)
+                    morceaux[i + 1].insert(0, m.Reste());
+                else sortie.EcrireLigne(m.Reste());
                 break;
             }
             const auto interieur = marque + kFinValeur.size();
-            Texte code = "#mrl(" + p.substr(interieur, fin - interieur) + ")#";
+            Texte code = "#mrl(" + m.p.substr(interieur, fin - interieur) + ")#";
             ctx.analyseur->Analyser(ctx, code, false, true);
-            sortie.Ecrire(std::string_view(p).substr(0, valeur));
+            sortie.Ecrire(std::string_view(m.p).substr(m.o, valeur - m.o));
             sortie.Ecrire(code);
-            sortie.Ecrire(std::string_view(p).substr(marque, fin + 2 - marque));
+            sortie.Ecrire(std::string_view(m.p).substr(marque, fin + 2 - marque));
             ++e.ChampsMaj;
             AvancerJauge(ctx);
-            p.erase(0, fin + 2);
+            m.o = fin + 2;
         }
     }
 }

@@ -196,23 +196,24 @@ Texte NumeroPolice(std::string_view nom) {
     return std::to_string(kPoliceDefaut);
 }
 
-void AjouterPolices(Texte& texte) {
+bool AjouterPolices(Texte& texte, std::size_t debut) {
     static constexpr std::string_view kTable = "{\\fonttbl";
-    const auto p = texte.find(kTable);
-    if (p == Texte::npos) return;
+    const auto p = texte.find(kTable, debut);
+    if (p == Texte::npos) return false;
     Texte polices;
     polices.reserve(157 * 32);
     for (int n = kPremierePolice; n <= kDernierePolice; ++n)
         polices += "{\\f" + std::to_string(n) + "\\fnil " + NomPolice(n) + ";}";
     texte.insert(p + kTable.size(), polices);
+    return true;
 }
 
-std::int16_t AjouterCouleurs(Texte& texte) {
+std::optional<std::int16_t> AjouterCouleurs(Texte& texte, std::size_t depart) {
     static constexpr std::string_view kTable = "{\\colortbl;";
-    const auto debut = texte.find(kTable);
-    if (debut == Texte::npos) return 0;
+    const auto debut = texte.find(kTable, depart);
+    if (debut == Texte::npos) return std::nullopt;
     const auto fin = texte.find(";}", debut);
-    if (fin == Texte::npos) return 0;
+    if (fin == Texte::npos) return std::nullopt;
     // Counted to the end of the text, not of the table: a ";\" further on counts too.
     int decalage = 0;
     for (auto p = texte.find(";\\", debut); p != Texte::npos; p = texte.find(";\\", p + 2))

@@ -6,6 +6,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string_view>
 
 namespace verdane {
@@ -30,11 +31,12 @@ Texte NomPolice(int numero);
 // The number of a font by its exact name, as text; "5006" when the name isn't in the list.
 Texte NumeroPolice(std::string_view nom);
 
-// Inserts the fonts right behind "{\fonttbl", before the model's own; nothing if absent.
-void AjouterPolices(Texte& texte);
+// Inserts the fonts right behind the first "{\fonttbl" from `debut`, before the model's own;
+// nothing if absent. True if the table was there.
+bool AjouterPolices(Texte& texte, std::size_t debut = 0);
 // Inserts the sixteen colours at the end of the colour table "{\colortbl;...;}" and returns
-// the count of ";\" from the table's start to the end of the text (the colour shift); 0 and
-// nothing inserted when there is no such table.
-std::int16_t AjouterCouleurs(Texte& texte);
+// the count of ";\" from the table's start to the end of the text (the colour shift); nothing
+// inserted when there is no such table from `debut` on.
+std::optional<std::int16_t> AjouterCouleurs(Texte& texte, std::size_t debut = 0);
 
 } // namespace verdane

@@ -1,0 +1,206 @@
+#include "engine/CreationDoc.h"
+#include "support/DossierTemporaire.h"
+#include "support/FauxUtilisateur.h"
+#include "utils/Chaines.h"
+
+#include <gtest/gtest.h>
+
+namespace verdane {
+namespace {
+
+// Stands for the scanner: "#mrl(x)#" becomes "[x]"; a code starting with "faux" is a false
+// condition.
+class AnalyseurFaux : public AnalyseurCodes {
+public:
+    bool Analyser(Contexte&, Texte& texte, bool, bool miseAJour) override {
+        const auto debut = TrouverSansCasse(texte, "#mrl(");
+        const auto fin = texte.rfind(")#");
+        if (debut == Texte::npos || fin == Texte::npos || fin < debut) return true;
+        const Texte code = texte.substr(debut + 5, fin - debut - 5);
+        codes.push_back(code);
+        misesAJour += miseAJour ? 1 : 0;
+        texte = texte.substr(0, debut) + "[" + code + "]" + texte.substr(fin + 2);
+        return code.rfind("faux", 0) != 0;
+    }
+    std::vector<Texte> codes;
+    int misesAJour = 0;
+};
+
+class CreationDoc : public ::testing::Test {
+protected:
+    CreationDoc() : ctx(u) { ctx.analyseur = &analyseur; }
+
+    // Creates from `modele` and returns the result with its line ends taken out.
+    std::string Creer(const std::string& modele, IssueCreation attendue = IssueCreation::Faite) {
+        d.Ecrire("modele.vdm", modele);
+        EXPECT_EQ(CreerDocument(ctx, d / "modele.vdm", d / "resultat.rtf", false, true, false),
+                  attendue);
+        return RemplacerExact(d.Lire("resultat.rtf"), "\r\n", "");
+    }
+
+    test::DossierTemporaire d;
+    test::FauxUtilisateur u;
+    AnalyseurFaux analyseur;
+    Contexte ctx;
+};
+
+std::string Ligne(char c, std::size_t n) { return std::string(n, c) + "\r\n"; }
+
+} // namespace
+
+TEST_F(CreationDoc, UnModeleSansCodeNeChangeQueParSesTablesDePolicesEtDeCouleurs) {
+    const std::string modele = "{\\rtf1\\ansi{\\fonttbl{\\f0 Arial;}}\r\n"
+                               "{\\colortbl;\\red1\\green2\\blue3;}\r\n"
+                               "\\pard Bonjour \\'e9t\\'e9\\par\r\n}";
+    const std::string r = Creer(modele);
+    std::string attendu = RemplacerExact(modele, "\r\n", "");
+    EXPECT_EQ(r.size(), attendu.size() + (r.size() - attendu.size()));
+    Texte sansAjouts = r;
+    const auto polices = sansAjouts.find("{\\f5000");
+    sansAjouts.erase(polices, sansAjouts.find("{\\f0 Arial") - polices);
+    const auto couleurs = sansAjouts.find("\\red0\\green0\\blue0;");
+    sansAjouts.erase(couleurs, sansAjouts.find(";}", couleurs) + 1 - couleurs);
+    EXPECT_EQ(sansAjouts, attendu);
+    EXPECT_EQ(ctx.etat.decalageCouleurs, 1);
+    EXPECT_TRUE(u.jauges.empty());
+    EXPECT_TRUE(u.messages.empty());
+    EXPECT_EQ(d.Lire("modele.vdm"), modele); // the model is never changed
+}
+
+TEST_F(CreationDoc, LesCodesSontRemplacesEtLaJaugeAvance) {
+    const std::string r = Creer("A #mrl(un)# B #MRL(deux)# C");
+    EXPECT_EQ(r, "A [un] B [deux] C");
+    EXPECT_EQ(analyseur.codes, (std::vector<Texte>{"un", "deux"}));
+    EXPECT_EQ(u.jauges, (std::vector<std::string>{"ouvrir:", "1485:50 %", "2970:100 %",
+                                                  "2970:            Création terminée !",
+                                                  "fermer"}));
+}
+
+TEST_F(CreationDoc, UnCodeCoupeEntreDeuxMorceauxEstRetrouve) {
+    // The first piece ends inside the code; the second holds its end.
+    const std::string r = Creer(Ligne('a', 995) + "x#mrl(nom\r\nDossier)# fin");
+    EXPECT_EQ(r, std::string(995, 'a') + "x[nomDossier] fin");
+    // "#mrl" at the very end of one piece and "(...)#" at the start of the next.
+    const std::string r2 = Creer(Ligne('b', 997) + "#mrl\r\n(code)#!");
+    EXPECT_EQ(r2, std::string(997, 'b') + "[code]!");
+    // A "#" near the end of a piece without any mark: nothing lost, nothing doubled.
+    const std::string r3 = Creer(Ligne('c', 1001) + "#\r\nsuite");
+    EXPECT_EQ(r3, std::string(1001, 'c') + "#suite");
+}
+
+TEST_F(CreationDoc, LesInformationsDuDocumentNeSontPasInterpretees) {
+    const std::string r =
+        Creer("{\\info{\\title #mrl(titre)#}{\\author #mrl(auteur)#}} #mrl(corps)#");
+    EXPECT_EQ(r, "{\\info{\\title #mrl(titre)#}{\\author [auteur]}} [corps]");
+    const std::string sansAuteur = Creer("{\\info{\\title #mrl(titre)#}} #mrl(corps)#");
+    EXPECT_EQ(sansAuteur, "{\\info{\\title #mrl(titre)#}} #mrl(corps)#");
+}
+
+TEST_F(CreationDoc, UneConditionFausseMangeLaFinDeParagrapheSuivante) {
+    EXPECT_EQ(Creer("A#mrl(faux)#texte cache\\par B\\par C"),
+              "A[faux]texte cache\\pB\\par C");
+    // At the end of a piece, the next piece loses its first paragraph end.
+    EXPECT_EQ(Creer(Ligne('x', 995) + "#mrl(faux)#\r\nsuite\\par fin\\par"),
+              std::string(995, 'x') + "[faux]suite\\pfin\\par");
+    // "\par" at the very end of the text loses its "ar".
+    EXPECT_EQ(Creer("#mrl(faux)#a\\par"), "[faux]a\\p");
+}
+
+TEST_F(CreationDoc, UnSignetDeWordDansLaMarqueEstRepare) {
+    EXPECT_EQ(Creer("#mrl{\\*\\bkmkend DDE_LINK1}(x)#"), "{\\*\\bkmkend DDE_LINK1}[x]");
+}
+
+TEST_F(CreationDoc, UneMarqueSansFinLaisseSaPlainteDansLeDocument) {
+    std::string modele = "debut #mrl(jamais fermee";
+    for (int i = 0; i < 30; ++i) modele += "\r\n" + std::string(999, 'z');
+    modele += "\r\nfin #mrl(ok)#";
+    const std::string r = Creer(modele);
+    ASSERT_FALSE(u.messages.empty());
+    EXPECT_EQ(u.messages[0].titre, "Le modèle de document comporte une erreur !");
+    EXPECT_EQ(u.messages[0].technique.rfind("Le code concerné est : #mrl(jamais fermee", 0), 0u);
+    EXPECT_NE(u.messages[0].technique.find("zzz..."), Texte::npos);
+    EXPECT_NE(r.find("Verdane n'a pas pû interpréter le code qui suit car il n'a pas trouvé la "
+                     "balise de fin \")#\" : #mrl(jamais fermee"),
+              Texte::npos);
+    EXPECT_TRUE(r.ends_with("fin [ok]")); // what follows is still interpreted
+    EXPECT_EQ(r.find("debut "), 0u);
+}
+
+TEST_F(CreationDoc, RemplacerUnResultatExistantSeDemande) {
+    d.Ecrire("modele.vdm", "nouveau");
+    d.Ecrire("resultat.rtf", "ancien");
+    // Default answer: No, the result stays.
+    EXPECT_EQ(CreerDocument(ctx, d / "modele.vdm", d / "resultat.rtf", false, true, true),
+              IssueCreation::Abandonnee);
+    ASSERT_EQ(u.questions.size(), 1u);
+    EXPECT_EQ(u.questions[0].texte, "Le document demandé existe déjà !\r\nVoulez-vous le remplacer ?");
+    EXPECT_EQ(u.questions[0].parDefaut, Reponse::Non);
+    EXPECT_EQ(d.Lire("resultat.rtf"), "ancien");
+    u.reponses.push_back(Reponse::Oui);
+    EXPECT_EQ(CreerDocument(ctx, d / "modele.vdm", d / "resultat.rtf", false, true, true),
+              IssueCreation::Faite);
+    EXPECT_EQ(d.Lire("resultat.rtf"), "nouveau\r\n");
+    // Without the question, it is replaced.
+    d.Ecrire("modele.vdm", "encore");
+    CreerDocument(ctx, d / "modele.vdm", d / "resultat.rtf", false, true, false);
+    EXPECT_EQ(d.Lire("resultat.rtf"), "encore\r\n");
+}
+
+TEST_F(CreationDoc, CeQuiEmpecheLaCreation) {
+    EXPECT_EQ(CreerDocument(ctx, "   ", d / "r.rtf", false, true, false),
+              IssueCreation::Abandonnee);
+    EXPECT_TRUE(u.messages.empty());
+    EXPECT_EQ(CreerDocument(ctx, d / "absent.vdm", d / "r.rtf", false, true, false),
+              IssueCreation::ModeleIllisible);
+    d.Ecrire("m.vdm", "x");
+    EXPECT_EQ(CreerDocument(ctx, d / "m.vdm", d / "pas/de/dossier/r.rtf", false, true, false),
+              IssueCreation::ResultatImpossible);
+    EXPECT_EQ(u.messages.size(), 2u);
+    // An empty model gives an empty result.
+    d.Ecrire("vide.vdm", "");
+    EXPECT_EQ(CreerDocument(ctx, d / "vide.vdm", d / "r.rtf", false, true, false),
+              IssueCreation::Faite);
+    EXPECT_EQ(d.Lire("r.rtf"), "");
+}
+
+TEST_F(CreationDoc, SansTraitementDeTexteLeDocumentEstLaEtLUtilisateurLeSait) {
+    d.Ecrire("m.vdm", "x");
+    EXPECT_EQ(CreerDocument(ctx, d / "m.vdm", d / "r.rtf", false, false, false),
+              IssueCreation::Faite);
+    EXPECT_EQ(d.Lire("r.rtf"), "x\r\n");
+    ASSERT_EQ(u.messages.size(), 1u);
+    EXPECT_EQ(u.messages[0].texte, "Aucun traitement de texte n'est actuellement lié à Verdane !");
+}
+
+TEST_F(CreationDoc, UnModeleEnormeSurUneLigne) {
+    std::string modele;
+    for (int i = 0; i < 20000; ++i) modele += "texte #mrl(c)# ";
+    const std::string r = Creer(modele);
+    EXPECT_EQ(analyseur.codes.size(), 20000u);
+    EXPECT_EQ(r.size(), modele.size() - 20000u * 5u); // "#mrl(c)#" becomes "[c]"
+}
+
+TEST_F(CreationDoc, LaMiseAJourRafraichitLesValeursEntreLesMarqueurs) {
+    const std::string doc = "Avant {\\v #debdata#}12{\\v #findata=#mrl(a)#} milieu "
+                            "{\\v #debdata#}34{\\v #findata=#mrl(b)#} apres #mrl(horsmarqueur)#";
+    d.Ecrire("doc.rtf", doc);
+    EXPECT_EQ(CreerDocument(ctx, d / "doc.rtf", d / "doc.rtf", true, true, true),
+              IssueCreation::Faite);
+    EXPECT_EQ(RemplacerExact(d.Lire("doc.rtf"), "\r\n", ""),
+              "Avant {\\v #debdata#}[a]{\\v #findata=#mrl(a)#} milieu "
+              "{\\v #debdata#}[b]{\\v #findata=#mrl(b)#} apres #mrl(horsmarqueur)#");
+    EXPECT_EQ(ctx.etat.ChampsMaj, 2);
+    EXPECT_EQ(analyseur.misesAJour, 2);
+    EXPECT_EQ(u.jauges.back(), "fermer");
+    EXPECT_EQ(u.jauges[u.jauges.size() - 2], "2970:        2 champs mis à jour !");
+    EXPECT_TRUE(u.questions.empty()); // an update never asks to replace
+}
+
+TEST(NomJauge, LesLongsNomsSontRaccourcis) {
+    EXPECT_EQ(NomJauge("court.rtf"), "court.rtf");
+    EXPECT_EQ(NomJauge(std::string(32, 'a')), std::string(32, 'a'));
+    EXPECT_EQ(NomJauge("abc" + std::string(10, 'x') + std::string(30, 'z')),
+              "abc..." + std::string(30, 'z'));
+}
+
+} // namespace verdane

@@ -1,0 +1,85 @@
+#include "support/DossierTemporaire.h"
+#include "utils/EcritureSure.h"
+#include "utils/OutilsFichiers.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+namespace verdane {
+
+TEST(OutilsFichiers, AjouterBarreEtUrl) {
+    EXPECT_EQ(AjouterBarre("   "), Texte(1, kSeparateur));
+    EXPECT_EQ(AjouterBarre(" C:\\a\\ "), "C:\\a\\");
+    EXPECT_EQ(AjouterBarre("/tmp/a/"), "/tmp/a/");
+    EXPECT_EQ(AjouterBarre("/tmp/a"), std::string("/tmp/a") + kSeparateur);
+    EXPECT_EQ(UrlFichier("C:\\a b\\c.rtf"), "file:///C|/a%20b/c.rtf");
+    EXPECT_EQ(NomFichier("C:\\a/b\\c.rtf"), "c.rtf");
+    EXPECT_EQ(DossierParent("C:\\a/b\\c.rtf"), "C:\\a/b\\");
+    EXPECT_EQ(DossierParent("c.rtf"), "");
+}
+
+TEST(OutilsFichiers, LesNomsSeResolventSansEgardALaCasse) {
+    test::DossierTemporaire d;
+    d.Ecrire("DOSSIERS/Dupont/CULT3.DON", "abc");
+    // A dossier written on Windows, asked with another case and the other separator.
+    const Texte demande = d.Texte_() + "dossiers\\DUPONT\\Cult3.don";
+    EXPECT_TRUE(FichierExiste(demande));
+    EXPECT_EQ(TailleFichier(demande), 3);
+    EXPECT_EQ(LireFichier(demande).value_or(""), "abc");
+    EXPECT_FALSE(FichierExiste(d.Texte_() + "dossiers\\DUPONT\\Cult4.don"));
+    EXPECT_EQ(TailleFichier(d.Texte_() + "absent/x"), 0);
+    // A folder is a file only when the folder bit is asked.
+    EXPECT_FALSE(FichierExiste(d.Texte_() + "dossiers"));
+    EXPECT_TRUE(FichierExiste(d.Texte_() + "dossiers", kAttributDossier));
+    EXPECT_TRUE(DossierExiste(d.Texte_() + "Dossiers\\dupont\\"));
+    EXPECT_FALSE(FichierExiste(""));
+}
+
+TEST(OutilsFichiers, UnNomAccentueSurLeDisqueEstEnUtf8) {
+    test::DossierTemporaire d;
+    d.Ecrire(Cp1252VersUtf8("Modèles/Été.rtf"), "x"); // names on the disk are UTF-8
+    EXPECT_TRUE(FichierExiste(d.Texte_() + "modèles/ÉTÉ.RTF"));
+    EXPECT_EQ(CheminTexte(CheminSysteme(d.Texte_() + "modèles/été.rtf")),
+              d.Texte_() + "Modèles/Été.rtf");
+}
+
+TEST(OutilsFichiers, CreerCheminEtSupprimer) {
+    test::DossierTemporaire d;
+    CreerChemin(d.Texte_() + "a\\b/c\\fichier.txt");
+    EXPECT_TRUE(DossierExiste(d.Texte_() + "a/b/c"));
+    EXPECT_FALSE(FichierExiste(d.Texte_() + "a/b/c/fichier.txt"));
+    d.Ecrire("a/lecture-seule", "x");
+    std::filesystem::permissions(d.Chemin() / "a/lecture-seule", std::filesystem::perms::owner_read);
+    SupprimerFichier(d.Texte_() + "A/LECTURE-SEULE");
+    EXPECT_FALSE(FichierExiste(d.Texte_() + "a/lecture-seule"));
+    SupprimerFichier(d.Texte_() + "absent"); // errors ignored
+}
+
+TEST(OutilsFichiers, LireOctetsAuBoutDuFichier) {
+    test::DossierTemporaire d;
+    d.Ecrire("f", "0123456789");
+    EXPECT_EQ(LireOctets(d / "f", 8, 5).value_or("?"), "89");
+    EXPECT_EQ(LireOctets(d / "f", 50, 5).value_or("?"), "");
+    EXPECT_FALSE(LireOctets(d / "absent", 0, 5).has_value());
+}
+
+TEST(EcritureSure, UnFichierNonValideNeRemplaceRien) {
+    test::DossierTemporaire d;
+    d.Ecrire("doc.rtf", "ancien");
+    {
+        FichierSur f(d / "doc.rtf");
+        ASSERT_TRUE(f.Ouvert());
+        f.Ecrire("nouveau mais incomplet");
+    } // destroyed without Valider: as if the program had died while writing
+    EXPECT_EQ(d.Lire("doc.rtf"), "ancien");
+    std::size_t fichiers = 0;
+    for ([[maybe_unused]] const auto& e : std::filesystem::directory_iterator(d.Chemin())) ++fichiers;
+    EXPECT_EQ(fichiers, 1u); // no temporary left behind
+
+    EXPECT_TRUE(EcrireFichierSur(d / "doc.rtf", "nouveau"));
+    EXPECT_EQ(d.Lire("doc.rtf"), "nouveau");
+    EXPECT_FALSE(EcrireFichierSur(d / "absent/doc.rtf", "x"));
+}
+
+} // namespace verdane
