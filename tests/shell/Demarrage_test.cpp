@@ -1,0 +1,93 @@
+#include "Fabrique.h"
+#include "shell/Demarrage.h"
+#include "shell/Options.h"
+#include "shell/Parametres.h"
+#include "support/DossierTemporaire.h"
+#include "support/FauxUtilisateur.h"
+#include "utils/Chaines.h"
+
+#include <gtest/gtest.h>
+
+namespace verdane {
+namespace {
+
+// A small Marlo installation: parameters, one dossier, a model.
+class Installation : public ::testing::Test {
+protected:
+    Installation() : ctx(u) {
+        d.Ecrire("Marlo/ParamLog/Marlo.par", EcrireOctetsParametres({EnrOrganisme{}, {}}));
+        d.Ecrire("Marlo/Dossiers/DUPONT/DUPONT",
+                 fabrique::FabriquerDossier(fabrique::LireDescription(
+                     "[dossier]\nnom=DUPONT\nnbAnEtude=5\nanneeDebut=2024\n")));
+        d.Ecrire("a b/m.vdm", "{\\rtf1 Bonjour #mrl(nomDossier)#}");
+        env.marloHome = d.Texte_() + "Marlo";
+    }
+
+    int Executer(const std::string& ligne) {
+        return ExecuterProgramme(ctx, LigneCommande(ligne), env);
+    }
+
+    test::DossierTemporaire d;
+    test::FauxUtilisateur u;
+    Contexte ctx;
+    Environnement env;
+};
+
+} // namespace
+
+TEST_F(Installation, LeTravailIniCreeLeResultat) {
+    EXPECT_EQ(Executer("INI \"" + d / "a b/m.vdm" + "\" \"" + d / "a b/r.rtf" + "\" \"\" remplacer"),
+              kSortieFaite);
+    EXPECT_EQ(d.Lire("a b/r.rtf"), "{\\rtf1 Bonjour #mrl(nomDossier)#\r\n}\r\n");
+    // The same job with "#esp#" for the blanks, in lower case.
+    EXPECT_EQ(Executer("ini " + Remplacer(d / "a b/m.vdm", " ", "#esp#") + " " +
+                       Remplacer(d / "a b/r2.rtf", " ", "#ESP#") + " X REMPLACER"),
+              kSortieFaite);
+    EXPECT_EQ(d.Lire("a b/r2.rtf"), d.Lire("a b/r.rtf"));
+    // The options are saved at the end, with the current dossier blanked by the job.
+    Etat relu;
+    relu.chemins.RepVerdane = d.Texte_() + "Marlo/Verdane/";
+    ChargerOptions(relu);
+    EXPECT_TRUE(relu.NomDossier[0].empty());
+}
+
+TEST_F(Installation, LeTravailIniNeRemplacePasSansLeDire) {
+    d.Ecrire("a b/r.rtf", "ancien");
+    EXPECT_EQ(Executer("INI \"" + d / "a b/m.vdm" + "\" \"" + d / "a b/r.rtf" + "\""),
+              kSortieFaite);
+    EXPECT_EQ(d.Lire("a b/r.rtf"), "ancien");
+    ASSERT_EQ(u.questions.size(), 1u);
+}
+
+TEST_F(Installation, CeQuiEmpecheUnTravail) {
+    EXPECT_EQ(Executer("INI " + d / "absent.vdm" + " " + d / "r.rtf"), kSortieEchec);
+    EXPECT_EQ(Executer("INI \"" + d / "a b/m.vdm" + "\" " + d / "nulle/part/r.rtf"), kSortieEchec);
+    EXPECT_EQ(Executer("INI \"  \" " + d / "r.rtf"), kSortieFaite); // empty model: nothing, quietly
+    EXPECT_EQ(Executer("FAIRE quelque chose"), kSortieUsage);
+    EXPECT_EQ(Executer(""), kSortieUsage);
+    env.marloHome = d.Texte_() + "Ailleurs";
+    EXPECT_EQ(Executer("INI a b"), kSortieEchec);
+    EXPECT_NE(u.ToutCeQuiAEteDit().find("WinMarlo est introuvable !"), Texte::npos);
+}
+
+TEST_F(Installation, UnTravailDeDossierChargeLeDossier) {
+    for (const std::string fin : {"", "/"}) {
+        Contexte c(u);
+        EXPECT_EQ(ExecuterProgramme(c, LigneCommande("creer " + d / "Marlo/Dossiers/DUPONT" + fin),
+                                    env),
+                  kSortieUsage); // no dialog in this build
+        EXPECT_EQ(Rogner(c.etat.enrDossier.nom), "DUPONT");
+        EXPECT_EQ(c.etat.NomDossier[0], "DUPONT");
+        EXPECT_EQ(c.etat.nbAnEtude, 5);
+    }
+    Contexte blancs(u);
+    Initialiser(blancs, env);
+    d.Ecrire("Marlo/Dossiers/LE PRE/LE PRE", std::string(2110, ' '));
+    PreparerDossierLigneCommande(blancs, LigneCommande("CERFA " + Remplacer(d / "Marlo/Dossiers/LE PRE", " ", "#mrl#")));
+    EXPECT_EQ(blancs.etat.NomDossier[0], "LE PRE");
+    Contexte absent(u);
+    PreparerDossierLigneCommande(absent, LigneCommande("GRAPH " + d / "Marlo/Dossiers/PERSONNE"));
+    EXPECT_TRUE(absent.etat.NomDossier[0].empty()); // a dossier that isn't there is blanked
+}
+
+} // namespace verdane
