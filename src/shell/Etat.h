@@ -99,6 +99,10 @@ struct Etat {
     // 0 means 5 years. Overrides the dossier's length for the run.
     std::optional<int> anneesPDE;
 
+    // Dossiers of a comparison chosen in advance by the caller, in slots 1 to this count: the
+    // selection of a multi-dossier table then asks nothing (0: ask as usual).
+    std::int16_t nbDossiersImposes = 0;
+
     // Number marks of the user's locale, read once at start.
     MarquesNombre marques;
 

@@ -61,7 +61,6 @@ void ConsoleUtilisateur::Ecrire(const std::string& utf8) {
 }
 
 void ConsoleUtilisateur::AfficherMessage(const Message& message) {
-    if (surMessage) surMessage(message);
     if (message.texte.empty()) return; // the form stays as it stands
     std::string s;
     if (!message.titre.empty()) s += "[" + TexteConsole(message.titre) + "]\n";
@@ -83,6 +82,7 @@ Reponse ConsoleUtilisateur::Question(const Texte& texte, const Texte& titre, Bou
     Reponse prise = parDefaut;
     if (imposee_) {
         prise = *imposee_;
+        if (boutons == Boutons::OkAnnuler) prise = prise == Reponse::Oui ? Reponse::Ok : Reponse::Annuler;
         s += std::string("-> ") + NomReponse(prise) + " (réponse imposée)\n";
         Ecrire(s);
     } else if (!entreeTerminal_) {
@@ -115,7 +115,6 @@ Reponse ConsoleUtilisateur::Question(const Texte& texte, const Texte& titre, Bou
             s.clear();
         }
     }
-    if (surQuestion) surQuestion(texte, titre, prise);
     return prise;
 }
 

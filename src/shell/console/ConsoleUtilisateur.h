@@ -6,7 +6,6 @@
 #include "shell/PortUtilisateur.h"
 
 #include <cstdio>
-#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -28,12 +27,9 @@ public:
     void PoserJauge(int largeur, const Texte& libelle) override;
     void FermerJauge() override;
 
-    // An answer imposed on every question (verdane-lot --reponse); none by default.
+    // An answer imposed on every question (verdane-lot --reponse): Oui or Non, taken as OK or
+    // Cancel by a question that has those buttons. None by default.
     void ImposerReponse(std::optional<Reponse> reponse) { imposee_ = reponse; }
-
-    // Watchers of what was said and asked, for the run's report.
-    std::function<void(const Message&)> surMessage;
-    std::function<void(const Texte& texte, const Texte& titre, Reponse prise)> surQuestion;
 
 private:
     void Ecrire(const std::string& utf8);
