@@ -1,6 +1,6 @@
 #include "data/EnrDossier.h"
 
-#include "utils/Binaire.h"
+#include "data/FluxEnregistrement.h"
 
 namespace verdane {
 
@@ -40,31 +40,17 @@ template <typename Flux, typename Enr> void Parcourir(Flux& f, Enr& e) {
     f.Chaine(e.fax, 20);
 }
 
-struct Lecture {
-    LecteurBinaire l;
-    void Chaine(Texte& t, std::size_t n) { t = l.Chaine(n); }
-    void I16(std::int16_t& v) { v = l.I16(); }
-    void I32(std::int32_t& v) { v = l.I32(); }
-};
-
-struct Ecriture {
-    EcrivainBinaire e;
-    void Chaine(const Texte& t, std::size_t n) { e.Chaine(t, n); }
-    void I16(std::int16_t v) { e.I16(v); }
-    void I32(std::int32_t v) { e.I32(v); }
-};
-
 } // namespace
 
 EnrDossier LireEnrDossier(std::string_view octets) {
     EnrDossier enr;
-    Lecture lecture{LecteurBinaire(octets)};
+    FluxLecture lecture{LecteurBinaire(octets)};
     Parcourir(lecture, enr);
     return enr;
 }
 
 std::string EcrireEnrDossier(const EnrDossier& enr) {
-    Ecriture ecriture;
+    FluxEcriture ecriture;
     Parcourir(ecriture, enr);
     return ecriture.e.Octets();
 }

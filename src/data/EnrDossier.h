@@ -37,7 +37,7 @@ struct EnrDossier {
     std::array<Texte, 7> produit;             // 40 each, paired with modeCom
     std::array<Texte, 7> modeCom;             // 40 each
     std::int16_t moisTva = 0;
-    Texte reserve2; // 12 bytes
+    Texte reserve2;          // 12 bytes
     std::int16_t devise = 0; // 0 = Franc
     Texte tel;               // 20
     Texte fax;               // 20
