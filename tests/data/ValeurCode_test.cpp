@@ -238,6 +238,39 @@ TEST_F(ValeurCodeArobase, FaitsDeLaCultureOuDuModule) {
     EXPECT_EQ(Valeur("@-a"), "Brebis");
 }
 
+TEST_F(ValeurCodeArobase, CodesMalFormesNePlantentPas) {
+    for (const char* code : {"",
+                             "@",
+                             "@c",
+                             "@p",
+                             "@a",
+                             "@-",
+                             "@--",
+                             "+",
+                             "-",
+                             "+-",
+                             "-+",
+                             "VLVB.don+",
+                             "VLVB.don+-",
+                             "VLVB.don+VLVB--",
+                             "@99999999999999999999-3a",
+                             "@12-3",
+                             "@12-a",
+                             "@12-m",
+                             "@12-so",
+                             "VLVB.don+VLVB-1a",
+                             "VLVB.don+VLVB-a12",
+                             "VLVB.don+VLVB-\xFF\xFF"
+                             "12"}) {
+        for (int pos : {-5, 0, 1, 2, 3, 30}) {
+            Texte c = code;
+            std::int16_t annee = -1, decimales = -1;
+            ValeurCode(ctx, c, pos, annee, decimales, 0);
+        }
+    }
+    SUCCEED();
+}
+
 TEST(FamilleDonnee, TagsReplies) {
     const std::pair<const char*, const char*> cas[] = {
         {"VLVB.don", "VL"},           {"vl.DON", "VL"},        {"OL.don", "OV"},
