@@ -11,14 +11,15 @@ namespace verdane {
 
 namespace {
 
-template <typename Flux, typename Enr> void Parcourir(Flux& f, Enr& e) {
+// One description of the layout serves the reader and the writer.
+constexpr auto kDisposition = [](auto& f, auto& e) {
     f.Chaine(e.code, 12);
     f.Chaine(e.libelle, 22);
     f.Chaine(e.dossier1, 40);
     f.Chaine(e.dossier2, 40);
     f.I16(e.queue);
     f.I16(e.queue2);
-}
+};
 
 NoeudCatalogue* TrouverDans(NoeudCatalogue& noeud, std::string_view cle) {
     if (noeud.cle == cle) return &noeud;
@@ -42,16 +43,11 @@ NoeudCatalogue* ArbreCatalogue::Trouver(std::string_view cle) {
 }
 
 EnrCatalogue LireEnrCatalogue(std::string_view octets) {
-    EnrCatalogue enr;
-    FluxLecture lecture{LecteurBinaire(octets)};
-    Parcourir(lecture, enr);
-    return enr;
+    return LireSelon<EnrCatalogue>(octets, kDisposition);
 }
 
 std::string EcrireEnrCatalogue(const EnrCatalogue& enr) {
-    FluxEcriture ecriture;
-    Parcourir(ecriture, enr);
-    return ecriture.e.Octets();
+    return EcrireSelon(enr, kDisposition);
 }
 
 void ChargerCatalogue(std::string_view fichier, ArbreCatalogue& arbre) {

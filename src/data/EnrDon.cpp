@@ -7,25 +7,21 @@ namespace verdane {
 
 namespace {
 
-template <typename Flux, typename Enr> void Parcourir(Flux& f, Enr& e) {
+// One description of the layout serves the reader and the writer.
+constexpr auto kDisposition = [](auto& f, auto& e) {
     f.Chaine(e.code, 12);
     f.Chaine(e.libelle, 22);
     for (auto& v : e.valeur) f.F32(v);
-}
+};
 
 } // namespace
 
 EnrDon LireEnrDon(std::string_view octets) {
-    EnrDon enr;
-    FluxLecture lecture{LecteurBinaire(octets)};
-    Parcourir(lecture, enr);
-    return enr;
+    return LireSelon<EnrDon>(octets, kDisposition);
 }
 
 std::string EcrireEnrDon(const EnrDon& enr) {
-    FluxEcriture ecriture;
-    Parcourir(ecriture, enr);
-    return ecriture.e.Octets();
+    return EcrireSelon(enr, kDisposition);
 }
 
 std::optional<EnrDon> LireEnregistrementDon(std::string_view fichier, long long numero) {

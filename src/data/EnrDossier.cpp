@@ -7,7 +7,7 @@ namespace verdane {
 namespace {
 
 // One description of the layout serves the reader and the writer.
-template <typename Flux, typename Enr> void Parcourir(Flux& f, Enr& e) {
+constexpr auto kDisposition = [](auto& f, auto& e) {
     f.Chaine(e.chemin, 50);
     f.Chaine(e.nom, 50);
     f.Chaine(e.nomExploitation, 30);
@@ -38,21 +38,16 @@ template <typename Flux, typename Enr> void Parcourir(Flux& f, Enr& e) {
     f.I16(e.devise);
     f.Chaine(e.tel, 20);
     f.Chaine(e.fax, 20);
-}
+};
 
 } // namespace
 
 EnrDossier LireEnrDossier(std::string_view octets) {
-    EnrDossier enr;
-    FluxLecture lecture{LecteurBinaire(octets)};
-    Parcourir(lecture, enr);
-    return enr;
+    return LireSelon<EnrDossier>(octets, kDisposition);
 }
 
 std::string EcrireEnrDossier(const EnrDossier& enr) {
-    FluxEcriture ecriture;
-    Parcourir(ecriture, enr);
-    return ecriture.e.Octets();
+    return EcrireSelon(enr, kDisposition);
 }
 
 } // namespace verdane

@@ -5,6 +5,8 @@
 #include "utils/Binaire.h"
 
 #include <cstdint>
+#include <string>
+#include <string_view>
 
 namespace verdane {
 
@@ -23,5 +25,21 @@ struct FluxEcriture {
     void I32(std::int32_t v) { e.I32(v); }
     void F32(float v) { e.F32(v); }
 };
+
+// A record read or written through its layout description, a callable taking (flux, record).
+template <typename Enr, typename Description>
+Enr LireSelon(std::string_view octets, Description description) {
+    Enr enr;
+    FluxLecture lecture{LecteurBinaire(octets)};
+    description(lecture, enr);
+    return enr;
+}
+
+template <typename Enr, typename Description>
+std::string EcrireSelon(const Enr& enr, Description description) {
+    FluxEcriture ecriture;
+    description(ecriture, enr);
+    return ecriture.e.Octets();
+}
 
 } // namespace verdane
