@@ -64,13 +64,5 @@ TEST(EnrDon, ChaqueLectureVoitLeFichierDuMoment) {
     EXPECT_EQ(LireEnregistrementDon(f, 1)->valeur[1], 8.0f);
 }
 
-TEST(EnrDon, NomSansRegardALaCasse) {
-    DossierTemporaire d;
-    d.Ecrire("CULT3.DON", FichierDon({Serie("x:1", "x", 4)}));
-    const auto e = LireEnregistrementDon(d.Chemin() + "Cult3.don", 1);
-    ASSERT_TRUE(e);
-    EXPECT_EQ(e->valeur[0], 4.0f);
-}
-
 } // namespace
 } // namespace verdane

@@ -73,11 +73,6 @@ TEST_F(ClsIniTest, Lecture) {
     EXPECT_EQ(ClsIni::Lire(fichier, "BANQUE", "Nom", "?"), "Crédit");
 }
 
-TEST_F(ClsIniTest, FichierEnMinusculesSurLeDisque) {
-    Ecrire("[A]\nk=v\n");
-    EXPECT_EQ(ClsIni::Lire(CheminTexte(dossier_) + "/ESSAI.INI", "a", "K"), "v");
-}
-
 TEST_F(ClsIniTest, SectionsEtCles) {
     Ecrire(kExemple);
     ClsIni ini(fichier, "général");
