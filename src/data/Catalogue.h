@@ -23,6 +23,7 @@ struct ArbreCatalogue {
 
     // The node of key `cle` anywhere in the tree, or null.
     NoeudCatalogue* Trouver(std::string_view cle);
+    const NoeudCatalogue* Trouver(std::string_view cle) const;
 };
 
 // The 118-byte record of a .CFG catalogue.
