@@ -21,7 +21,7 @@ constexpr auto kDisposition = [](auto& f, auto& e) {
     f.I16(e.queue2);
 };
 
-NoeudCatalogue* TrouverDans(NoeudCatalogue& noeud, std::string_view cle) {
+template <typename Noeud> Noeud* TrouverDans(Noeud& noeud, std::string_view cle) {
     if (noeud.cle == cle) return &noeud;
     for (auto& enfant : noeud.enfants)
         if (auto* n = TrouverDans(enfant, cle)) return n;
