@@ -1,13 +1,13 @@
 #include "data/EnrDossier.h"
 
-#include "utils/Binaire.h"
+#include "data/FluxEnregistrement.h"
 
 namespace verdane {
 
 namespace {
 
 // One description of the layout serves the reader and the writer.
-template <typename Flux, typename Enr> void Parcourir(Flux& f, Enr& e) {
+constexpr auto kDisposition = [](auto& f, auto& e) {
     f.Chaine(e.chemin, 50);
     f.Chaine(e.nom, 50);
     f.Chaine(e.nomExploitation, 30);
@@ -38,35 +38,16 @@ template <typename Flux, typename Enr> void Parcourir(Flux& f, Enr& e) {
     f.I16(e.devise);
     f.Chaine(e.tel, 20);
     f.Chaine(e.fax, 20);
-}
-
-struct Lecture {
-    LecteurBinaire l;
-    void Chaine(Texte& t, std::size_t n) { t = l.Chaine(n); }
-    void I16(std::int16_t& v) { v = l.I16(); }
-    void I32(std::int32_t& v) { v = l.I32(); }
-};
-
-struct Ecriture {
-    EcrivainBinaire e;
-    void Chaine(const Texte& t, std::size_t n) { e.Chaine(t, n); }
-    void I16(std::int16_t v) { e.I16(v); }
-    void I32(std::int32_t v) { e.I32(v); }
 };
 
 } // namespace
 
 EnrDossier LireEnrDossier(std::string_view octets) {
-    EnrDossier enr;
-    Lecture lecture{LecteurBinaire(octets)};
-    Parcourir(lecture, enr);
-    return enr;
+    return LireSelon<EnrDossier>(octets, kDisposition);
 }
 
 std::string EcrireEnrDossier(const EnrDossier& enr) {
-    Ecriture ecriture;
-    Parcourir(ecriture, enr);
-    return ecriture.e.Octets();
+    return EcrireSelon(enr, kDisposition);
 }
 
 } // namespace verdane

@@ -26,4 +26,10 @@ Texte FormatNombre(float valeur, std::int16_t decimales, bool videSiZero,
 std::optional<double> LireNombre(std::string_view texte,
                                  const MarquesNombre& marques = MarquesNombre{});
 
+// The marks of a locale name such as "fr_FR.UTF-8" or "en_US": by its language; "C", "POSIX",
+// an empty or an unknown name give the French marks.
+MarquesNombre MarquesDeLocale(std::string_view nomLocale);
+// The marks of the user's locale, from LC_ALL, LC_NUMERIC or LANG, the first one set.
+MarquesNombre MarquesDuSysteme();
+
 } // namespace verdane

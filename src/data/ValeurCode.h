@@ -13,8 +13,10 @@ namespace verdane {
 Texte ValeurCode(Contexte& ctx, Texte& code, int posTiret, std::int16_t& annee,
                  std::int16_t& decimales, int dossier);
 
-// For tables and formulas: `<tag>-<record>[!A<k>]`, the value of year `annee`, slot 0.
-float ValeurSerie(Contexte& ctx, const Texte& code, int annee);
+// For tables and formulas: `<tag>-<record>[!A<k>]`, the value of year `annee`, slot 0. "!A-1"
+// asks for the year before `annee`, which a table starting at year index 1
+// (`tableauDebuteAnnee1`) cannot give: that is told, and gives 0; "!A<k>" asks for year k.
+float ValeurSerie(Contexte& ctx, const Texte& code, int annee, bool tableauDebuteAnnee1 = false);
 // The trimmed label of `<tag>-<record>`, or "Enregistrement n°R de TAG".
 Texte LibelleSerie(Contexte& ctx, const Texte& code);
 // The family of a series file, by its tag ("VL", "OV", ... or "redrep").

@@ -1,0 +1,93 @@
+#include "data/Catalogue.h"
+
+#include "data/FluxEnregistrement.h"
+#include "data/ValeurCode.h"
+#include "utils/Chaines.h"
+#include "utils/OutilsFichiers.h"
+
+#include <algorithm>
+
+namespace verdane {
+
+namespace {
+
+// One description of the layout serves the reader and the writer.
+constexpr auto kDisposition = [](auto& f, auto& e) {
+    f.Chaine(e.code, 12);
+    f.Chaine(e.libelle, 22);
+    f.Chaine(e.dossier1, 40);
+    f.Chaine(e.dossier2, 40);
+    f.I16(e.queue);
+    f.I16(e.queue2);
+};
+
+template <typename Noeud> Noeud* TrouverDans(Noeud& noeud, std::string_view cle) {
+    if (noeud.cle == cle) return &noeud;
+    for (auto& enfant : noeud.enfants)
+        if (auto* n = TrouverDans(enfant, cle)) return n;
+    return nullptr;
+}
+
+// The folder of key `cle` under `parent`, made the first time that it is met.
+NoeudCatalogue& Dossier(ArbreCatalogue& arbre, NoeudCatalogue& parent, const Texte& cle,
+                        const Texte& texte, const Texte& image) {
+    if (auto* n = arbre.Trouver(cle)) return *n;
+    parent.enfants.push_back({cle, texte, image, {}});
+    return parent.enfants.back();
+}
+
+} // namespace
+
+NoeudCatalogue* ArbreCatalogue::Trouver(std::string_view cle) {
+    return TrouverDans(racine, cle);
+}
+
+EnrCatalogue LireEnrCatalogue(std::string_view octets) {
+    return LireSelon<EnrCatalogue>(octets, kDisposition);
+}
+
+std::string EcrireEnrCatalogue(const EnrCatalogue& enr) {
+    return EcrireSelon(enr, kDisposition);
+}
+
+void ChargerCatalogue(std::string_view fichier, ArbreCatalogue& arbre) {
+    const auto contenu = LireFichier(fichier);
+    if (!contenu) return;
+    const std::size_t nb = std::min<std::size_t>(contenu->size() / EnrCatalogue::kTaille, 32767);
+    if (nb == 0) return;
+    const std::string_view octets(*contenu);
+    const auto enr = [&](std::size_t i) {
+        return LireEnrCatalogue(octets.substr(i * EnrCatalogue::kTaille, EnrCatalogue::kTaille));
+    };
+
+    const Texte nom = NomFichier(fichier);
+    const EnrCatalogue tete = enr(0);
+    if (tete.queue == 0 || EgalSansCasse(nom, "RESSUP.CFG")) return;
+    if (arbre.Trouver(nom)) return;
+    const Texte famille = FamilleDonnee(nom);
+    arbre.racine.enfants.push_back({nom, Rogner(tete.libelle), famille, {}});
+    const std::size_t position = arbre.racine.enfants.size() - 1;
+
+    const auto cfg = TrouverSansCasse(nom, ".CFG");
+    const Texte fichierDon = nom.substr(0, cfg) + ".DON";
+    for (std::size_t i = 1; i < nb; ++i) {
+        const EnrCatalogue e = enr(i);
+        const Texte libelle = Rogner(e.libelle);
+        if (e.code.find('-') == Texte::npos || libelle == "[ sans nom ]") continue;
+        const Texte cle = fichierDon + "+" + Rogner(e.code);
+        if (arbre.Trouver(cle)) continue;
+        // Folders may have been added to the tree: find the catalogue's node again.
+        NoeudCatalogue* parent = &arbre.racine.enfants[position];
+        const Texte dossier1 = Rogner(e.dossier1);
+        const Texte dossier2 = Rogner(e.dossier2);
+        if (!dossier1.empty()) {
+            const Texte cle1 = nom + "\\" + dossier1;
+            parent = &Dossier(arbre, *parent, cle1, dossier1, famille);
+            if (!dossier2.empty())
+                parent = &Dossier(arbre, *parent, cle1 + "\\" + dossier2, dossier2, famille);
+        }
+        parent->enfants.push_back({cle, libelle, "puce", {}});
+    }
+}
+
+} // namespace verdane

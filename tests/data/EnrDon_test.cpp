@@ -1,0 +1,68 @@
+#include "data/EnrDon.h"
+
+#include "FauxUtilisateurDonnees.h"
+
+#include <gtest/gtest.h>
+
+#include <bit>
+#include <cstring>
+
+namespace verdane {
+namespace {
+
+using test_donnees::DossierTemporaire;
+using test_donnees::FichierDon;
+using test_donnees::Serie;
+
+TEST(EnrDon, DispositionSurDisque) {
+    EnrDon e = Serie("VLVB-12:2", "Lait vendu|litres", 10.0f, 0.5f);
+    e.valeur[13] = -1.25f;
+    const std::string octets = EcrireEnrDon(e);
+    ASSERT_EQ(octets.size(), EnrDon::kTaille);
+    EXPECT_EQ(octets.substr(0, 12), "VLVB-12:2   ");
+    EXPECT_EQ(octets.substr(12, 22), "Lait vendu|litres     ");
+    // valeur(1) = 10.5 at offset 38, little-endian float 32.
+    const auto bits = std::bit_cast<std::uint32_t>(10.5f);
+    EXPECT_EQ(static_cast<unsigned char>(octets[38]), bits & 0xFF);
+    EXPECT_EQ(static_cast<unsigned char>(octets[41]), bits >> 24);
+    float dernier = 0;
+    std::memcpy(&dernier, octets.data() + 86, 4);
+    EXPECT_EQ(dernier, -1.25f);
+
+    const EnrDon relu = LireEnrDon(octets);
+    EXPECT_EQ(relu.code, "VLVB-12:2   ");
+    EXPECT_EQ(relu.valeur, e.valeur);
+}
+
+TEST(EnrDon, LectureParNumeroSansSortirDuFichier) {
+    DossierTemporaire d;
+    std::string octets = FichierDon(
+        {Serie("A-1:0", "un", 1), Serie("A-2:0", "deux", 2), Serie("A-3:0", "trois", 3)});
+    const Texte complet = d.Ecrire("A.don", octets);
+    // A fourth record cut short by the end of the file.
+    const Texte tronque =
+        d.Ecrire("B.don", octets + EcrireEnrDon(Serie("B-4:0", "x")).substr(0, 50));
+
+    ASSERT_TRUE(LireEnregistrementDon(complet, 1));
+    EXPECT_EQ(LireEnregistrementDon(complet, 1)->valeur[0], 1.0f);
+    EXPECT_EQ(LireEnregistrementDon(complet, 3)->valeur[2], 5.0f);
+    EXPECT_FALSE(LireEnregistrementDon(complet, 0));
+    EXPECT_FALSE(LireEnregistrementDon(complet, -2));
+    EXPECT_FALSE(LireEnregistrementDon(complet, 4));
+    EXPECT_FALSE(LireEnregistrementDon(complet, 1LL << 40));
+    EXPECT_TRUE(LireEnregistrementDon(tronque, 3));
+    EXPECT_FALSE(LireEnregistrementDon(tronque, 4));
+    EXPECT_FALSE(LireEnregistrementDon(d.Chemin() + "absent.don", 1));
+    EXPECT_FALSE(LireEnregistrementDon(d.Chemin(), 1)); // a folder
+}
+
+TEST(EnrDon, ChaqueLectureVoitLeFichierDuMoment) {
+    DossierTemporaire d;
+    const Texte f = d.Ecrire("C.don", FichierDon({Serie("C-1:0", "c", 1)}));
+    EXPECT_EQ(LireEnregistrementDon(f, 1)->valeur[1], 2.0f);
+    d.Ecrire("C.don", FichierDon({Serie("C-1:0", "c", 7)}));
+    EXPECT_EQ(LireEnregistrementDon(f, 1)->valeur[1], 8.0f);
+}
+
+} // namespace
+} // namespace verdane

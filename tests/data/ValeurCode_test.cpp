@@ -1,0 +1,286 @@
+#include "data/ValeurCode.h"
+
+#include "FauxUtilisateurDonnees.h"
+
+#include <gtest/gtest.h>
+
+namespace verdane {
+namespace {
+
+using test_donnees::DossierTemporaire;
+using test_donnees::FauxUtilisateurDonnees;
+using test_donnees::FichierDon;
+using test_donnees::Serie;
+
+// A dossier "Ferme" in a scratch folder, with a few series files, as slot 0.
+class ValeurCodeTest : public ::testing::Test {
+protected:
+    ValeurCodeTest() : ctx(u) {
+        ctx.etat.RepDossier[0] = d.Chemin();
+        ctx.etat.NomDossier[0] = "Ferme";
+        ctx.etat.nbAnEtude = 5;
+        ctx.etat.anneeDebut = 2004;
+        ctx.etat.marques = MarquesNombre{",", " "};
+        // VLVB.don: record 12 holds 100, 101.5, 103, ... with 2 decimals.
+        std::vector<EnrDon> vlvb(12, Serie("VLVB-0:0", ""));
+        vlvb[11] = Serie("VLVB-12: 2 ", "Lait vendu|litres", 100.0f, 1.5f);
+        d.Ecrire("Ferme/VLVB.don", FichierDon(vlvb));
+    }
+
+    Texte Valeur(Texte code, std::int16_t annee = -1, std::int16_t decimales = -1,
+                 int dossier = 0) {
+        int posTiret = 0;
+        const auto premier = code.find('-');
+        if (premier != Texte::npos) {
+            const auto second = code.find('-', premier + 1);
+            posTiret = static_cast<int>((second == Texte::npos ? premier : second) + 1);
+        }
+        return ValeurCode(ctx, code, posTiret, annee, decimales, dossier);
+    }
+
+    // Writes the series of a record 5 whose values over years 1..5 are given.
+    void EcrireStat(const Texte& nom, std::array<float, 5> v) {
+        EnrDon e = Serie("X-5:1", "Stat");
+        for (std::size_t k = 0; k < 5; ++k) e.valeur[k + 1] = v[k];
+        e.valeur[6] = -1000.0f; // beyond the study: never looked at
+        std::vector<EnrDon> f(5, Serie("X-0:0", ""));
+        f[4] = e;
+        d.Ecrire("Ferme/" + nom, FichierDon(f));
+    }
+
+    DossierTemporaire d;
+    FauxUtilisateurDonnees u;
+    Contexte ctx;
+};
+
+TEST_F(ValeurCodeTest, AnneeSurUnOuDeuxChiffres) {
+    EXPECT_EQ(Valeur("VLVB.don+VLVB-3a12"), "104,50");
+    EXPECT_EQ(Valeur("VLVB.don+VLVB-10a12"), "115,00");
+    EXPECT_EQ(Valeur("VLVB.don+VLVB-0a12"), "100,00");
+    EXPECT_EQ(Valeur("VLVB.don+VLVB-13a12"), "119,50");
+    // The one-digit form needs its "a" right behind the digit.
+    EXPECT_EQ(Valeur("VLVB.don+VLVB-03a12"), "104,50");
+    EXPECT_TRUE(u.messages.empty());
+}
+
+TEST_F(ValeurCodeTest, AnneeEtDecimalesRendues) {
+    Texte code = "vlvb.DON+VLVB-10a12";
+    std::int16_t annee = -1, decimales = -1;
+    EXPECT_EQ(ValeurCode(ctx, code, 14, annee, decimales, 0), "115,00");
+    EXPECT_EQ(annee, 10);
+    EXPECT_EQ(decimales, 2);
+    // Given decimals win over the record's; a given year takes all behind the "-" as record.
+    EXPECT_EQ(Valeur("VLVB.don+VLVB-3a12", -1, 0), "104");
+    EXPECT_EQ(Valeur("VLVB.don+VLVB-12", 4), "106,00");
+}
+
+TEST_F(ValeurCodeTest, HorsDesBornesDonneVideSansPlanter) {
+    EXPECT_EQ(Valeur("VLVB.don+VLVB-14a12"), "");
+    EXPECT_EQ(Valeur("VLVB.don+VLVB-99a12"), "");
+    EXPECT_EQ(Valeur("VLVB.don+VLVB-12", 14), "");
+    EXPECT_EQ(Valeur("VLVB.don+VLVB-12", -7), "");
+    EXPECT_EQ(Valeur("VLVB.don+VLVB-3a13"), "");
+    EXPECT_EQ(Valeur("VLVB.don+VLVB-3a0"), "");
+    EXPECT_EQ(Valeur("VLVB.don+VLVB-3a"), "");
+    EXPECT_EQ(Valeur("VLVB.don+VLVB-"), "");
+    EXPECT_EQ(Valeur("VLVB.don+VLVB-3a99999999999999999999"), "");
+    EXPECT_EQ(Valeur("VLVB.don+VLVB-3a12", -1, -1, 1), ""); // slot 1 names no dossier
+    EXPECT_EQ(Valeur("VLVB.don+VLVB-3a12", -1, -1, 42), "");
+    EXPECT_TRUE(u.messages.empty());
+}
+
+TEST_F(ValeurCodeTest, FichierAbsentOuVideSansMessage) {
+    d.Ecrire("Ferme/VIDE.don", "");
+    EXPECT_EQ(Valeur("ABSENT.don+X-3a1"), "");
+    EXPECT_EQ(Valeur("VIDE.don+X-3a1"), "");
+    EXPECT_EQ(Valeur("VIDE.don+X-zzz1"), ""); // no file: not even the word is looked at
+    EXPECT_TRUE(u.messages.empty());
+}
+
+TEST_F(ValeurCodeTest, EnregistrementTronqueDonneVide) {
+    std::string octets = FichierDon({Serie("T-1:0", "t", 1)});
+    octets += EcrireEnrDon(Serie("T-2:0", "t", 2)).substr(0, 80);
+    d.Ecrire("Ferme/T.don", octets);
+    EXPECT_EQ(Valeur("T.don+T-1a1"), "2");
+    EXPECT_EQ(Valeur("T.don+T-1a2"), "");
+    EXPECT_EQ(Valeur("T.don+T-i2"), "");
+    EXPECT_EQ(Valeur("T.don+T-max2"), "");
+}
+
+TEST_F(ValeurCodeTest, LibelleEtUnite) {
+    EXPECT_EQ(Valeur("VLVB.don+VLVB-i12"), "lait vendu");
+    EXPECT_EQ(Valeur("VLVB.don+VLVB-u12"), "litres");
+    d.Ecrire("Ferme/OV.don", FichierDon({Serie("OV-1:0", "Brebis ÉLEVÉES")}));
+    EXPECT_EQ(Valeur("OV.don+OV-i1"), "brebis élevées");
+    EXPECT_EQ(Valeur("OV.don+OV-u1"), "");
+}
+
+TEST_F(ValeurCodeTest, MinimumMaximumSommeMoyenne) {
+    EcrireStat("S.don", {3.0f, 1.0f, 4.0f, 1.0f, 4.0f});
+    EXPECT_EQ(Valeur("S.don+S-min5"), "1,0");
+    EXPECT_EQ(Valeur("S.don+S-max5"), "4,0");
+    EXPECT_EQ(Valeur("S.don+S-som5"), "13,0");
+    EXPECT_EQ(Valeur("S.don+S-moy5"), "2,6");
+    // A tie keeps the earlier year; index 1 counts as anneeDebut.
+    EXPECT_EQ(Valeur("S.don+S-mina5"), "2005");
+    EXPECT_EQ(Valeur("S.don+S-maxa5"), "2006");
+    EXPECT_EQ(Valeur("S.don+S-som5", -1, 3), "13,000");
+
+    EcrireStat("E.don", {7.0f, 7.0f, 7.0f, 7.0f, 7.0f});
+    EXPECT_EQ(Valeur("E.don+E-mina5"), "2004");
+    EXPECT_EQ(Valeur("E.don+E-maxa5"), "2004");
+}
+
+TEST_F(ValeurCodeTest, PeriodeCourte) {
+    EcrireStat("S.don", {3.0f, 1.0f, 9.0f, 1.0f, 4.0f});
+    ctx.etat.nbAnEtude = 1;
+    EXPECT_EQ(Valeur("S.don+S-min5"), "3,0");
+    EXPECT_EQ(Valeur("S.don+S-maxa5"), "2004");
+    EXPECT_EQ(Valeur("S.don+S-moy5"), "3,0");
+    ctx.etat.nbAnEtude = 0;
+    EXPECT_EQ(Valeur("S.don+S-moy5"), "3,0"); // valeur(1), no division by zero
+    EXPECT_EQ(Valeur("S.don+S-som5"), "3,0");
+    ctx.etat.nbAnEtude = 300; // beyond the 14 values: bounded
+    EXPECT_EQ(Valeur("S.don+S-min5"), "-1 000,0");
+}
+
+TEST_F(ValeurCodeTest, MessagesDErreur) {
+    EXPECT_EQ(Valeur("VLVB.don+VLVB-mix12"), "");
+    ASSERT_EQ(u.messages.size(), 1u);
+    EXPECT_EQ(u.messages[0].titre, "Erreur détectée dans le modèle");
+    EXPECT_EQ(u.messages[0].texte, "Le code \"VLVB.don+VLVB-mix12\" est erroné ( après le - )."
+                                   "\r\nCette portion de code ne peut être traitée.");
+    EXPECT_EQ(u.messages[0].technique,
+              "Modifiez le modèle utilisé pour que ce message d'erreur n'apparaisse plus.");
+    EXPECT_EQ(Valeur("VLVB.don+VLVB-s"), "");
+    EXPECT_EQ(u.messages.size(), 2u);
+
+    EXPECT_EQ(Valeur("VLVB.donVLVB-3a12"), "");
+    ASSERT_EQ(u.messages.size(), 3u);
+    EXPECT_EQ(u.messages[2].titre, "Erreur détectée :  cliquez Fermer pour continuer");
+    EXPECT_EQ(u.messages[2].texte,
+              "Le code \"VLVB.donVLVB-3a12\" est inconnu de l'interpréteur Verdane.");
+    EXPECT_EQ(u.messages[2].technique, "Vous devez modifier en conséquence le modèle de "
+                                       "document utilisé pour que cette erreur n'apparaisse "
+                                       "plus.");
+    EXPECT_EQ(u.messages[2].genre, "");
+}
+
+TEST_F(ValeurCodeTest, DeuxTirets) {
+    d.Ecrire("Ferme/RES-B.don", FichierDon({Serie("R-1:1", "r", 5)}));
+    EXPECT_EQ(Valeur("RES-B.don+RES-2a1"), "7,0");
+}
+
+TEST_F(ValeurCodeTest, SlotDUnAutreDossier) {
+    ctx.etat.RepDossier[3] = d.Chemin() + "autres";
+    ctx.etat.NomDossier[3] = "Voisin";
+    d.Ecrire("autres/Voisin/VL.don", FichierDon({Serie("VL-1:0", "v", 50)}));
+    EXPECT_EQ(Valeur("VL.don+VL-2a1", -1, -1, 3), "52");
+    EXPECT_EQ(Valeur("VL.don+VL-2a1", -1, -1, 0), "");
+}
+
+// The crop, perennial crop and animal module being expanded.
+class ValeurCodeArobase : public ValeurCodeTest {
+protected:
+    ValeurCodeArobase() {
+        auto& dom = ctx.etat.domaine;
+        dom.numCulture = 3;
+        dom.libelleCulture = "Blé tendre             ";
+        dom.uniteCulture = "ha";
+        dom.numCulturePerenne = 2;
+        dom.libelleCulturePerenne = "Pommiers";
+        dom.uniteCulturePerenne = "are";
+        dom.numModuleAnimal = 5;
+        dom.libelleModuleAnimal = "Brebis";
+        std::vector<EnrDon> cult(12, Serie("C-0:0", ""));
+        cult[11] = Serie("C-12:1", "Marge|€/ha", 10, 1);
+        d.Ecrire("Ferme/CULT3.DON", FichierDon(cult)); // written so by another system
+        d.Ecrire("Ferme/CltP2.don", FichierDon({Serie("P-1:0", "p", 20)}));
+        d.Ecrire("Ferme/AL05AL.don", FichierDon({Serie("A-1:0", "a", 500)}));
+        d.Ecrire("Ferme/AL12AL.don", FichierDon({Serie("A-1:0", "a", 1200)}));
+    }
+};
+
+TEST_F(ValeurCodeArobase, FichierDeLaCultureCourante) {
+    EXPECT_EQ(Valeur("@12-3a"), "13,0"); // no letter: the crop
+    EXPECT_EQ(Valeur("@c12-10a"), "20,0");
+    EXPECT_EQ(Valeur("@c12-i"), "marge");
+    EXPECT_EQ(Valeur("@12-u"), "€/ha");
+    EXPECT_EQ(Valeur("@12-max"), "15,0");
+    EXPECT_EQ(Valeur("@12-mina"), "2004");
+    EXPECT_EQ(Valeur("@p1-2a"), "22");
+    EXPECT_EQ(Valeur("@a1-2a"), "502");
+    ctx.etat.domaine.numModuleAnimal = 12;
+    EXPECT_EQ(Valeur("@a1-2a"), "1 202");
+    ctx.etat.domaine.numCulture = 4; // no such file
+    EXPECT_EQ(Valeur("@12-3a"), "");
+    EXPECT_TRUE(u.messages.empty());
+}
+
+TEST_F(ValeurCodeArobase, LeCodeEstRaccourci) {
+    Texte code = "@c12-3a";
+    std::int16_t annee = -1, decimales = -1;
+    EXPECT_EQ(ValeurCode(ctx, code, 5, annee, decimales, 0), "13,0");
+    EXPECT_EQ(code, "12-3a");
+    EXPECT_EQ(annee, 3);
+    // A position that doesn't fall on a "-" is found again.
+    code = "@12-3a";
+    annee = -1;
+    EXPECT_EQ(ValeurCode(ctx, code, 0, annee, decimales, 0), "13,0");
+}
+
+TEST_F(ValeurCodeArobase, FaitsDeLaCultureOuDuModule) {
+    EXPECT_EQ(Valeur("@c-c"), "ha");
+    EXPECT_EQ(Valeur("@-n"), "Blé tendre");
+    EXPECT_EQ(Valeur("@-pc"), "are");
+    EXPECT_EQ(Valeur("@-p"), "Pommiers");
+    EXPECT_EQ(Valeur("@-ac"), "");
+    EXPECT_EQ(Valeur("@-a"), "Brebis");
+}
+
+TEST_F(ValeurCodeArobase, CodesMalFormesNePlantentPas) {
+    for (const char* code : {"",
+                             "@",
+                             "@c",
+                             "@p",
+                             "@a",
+                             "@-",
+                             "@--",
+                             "+",
+                             "-",
+                             "+-",
+                             "-+",
+                             "VLVB.don+",
+                             "VLVB.don+-",
+                             "VLVB.don+VLVB--",
+                             "@99999999999999999999-3a",
+                             "@12-3",
+                             "@12-a",
+                             "@12-m",
+                             "@12-so",
+                             "VLVB.don+VLVB-1a",
+                             "VLVB.don+VLVB-a12",
+                             "VLVB.don+VLVB-\xFF\xFF"
+                             "12"}) {
+        for (int pos : {-5, 0, 1, 2, 3, 30}) {
+            Texte c = code;
+            std::int16_t annee = -1, decimales = -1;
+            ValeurCode(ctx, c, pos, annee, decimales, 0);
+        }
+    }
+    SUCCEED();
+}
+
+TEST(FamilleDonnee, TagsReplies) {
+    const std::pair<const char*, const char*> cas[] = {
+        {"VLVB.don", "VL"},           {"vl.DON", "VL"},        {"OL.don", "OV"},
+        {"PRIANI.CFG", "VA"},         {"PriCult.cfg", "CULT"}, {"RESBIS.don", "RES"},
+        {"RESDIV.CFG", "RESDIV"},     {"CLTP.CFG", "CLTP"},    {"IMMORES", "IMMORES"},
+        {"Cult3.don", "redrep"},      {"", "redrep"},          {"VLVBX.don", "redrep"},
+        {"Datacfg\\PORC.CFG", "PORC"}};
+    for (const auto& [fichier, famille] : cas)
+        EXPECT_EQ(FamilleDonnee(fichier), famille) << fichier;
+}
+
+} // namespace
+} // namespace verdane
