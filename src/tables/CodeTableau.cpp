@@ -1,6 +1,7 @@
 #include "tables/CodeTableau.h"
 
 #include "shell/Contexte.h"
+#include "tables/LectureCode.h"
 #include "utils/Chaines.h"
 
 #include <algorithm>
@@ -15,12 +16,23 @@ char Chiffre(int valeur) {
     return static_cast<char>('0' + std::clamp(valeur, 0, 9));
 }
 
+// A format as written: empty, the default; short of fields, completed from the default, so
+// that the text part keeps its nine fields and the code reads back the same.
+Texte FormatComplet(const Texte& format, std::string_view defaut) {
+    if (Rogner(format).empty()) return Texte(defaut);
+    Texte complet = format;
+    const auto champs = static_cast<int>(std::count(format.begin(), format.end(), ';')) + 1;
+    const std::size_t suite = PositionPointVirgule(defaut, champs);
+    if (suite != std::string_view::npos) complet += defaut.substr(suite);
+    return complet;
+}
+
 void AjouterFormat(Texte& code, const Texte& formatTexte, const Texte& formatCadre,
                    const Texte& texteDefaut) {
     code += ';';
-    code += Rogner(formatTexte).empty() ? texteDefaut : formatTexte;
+    code += FormatComplet(formatTexte, texteDefaut);
     code += ';';
-    code += Rogner(formatCadre).empty() ? Texte(kCadreVide) : formatCadre;
+    code += FormatComplet(formatCadre, kCadreVide);
 }
 
 void AjouterEntete(Texte& code, const TableauModele& tableau) {

@@ -32,12 +32,7 @@ Texte SoulignesEnBlancs(std::string_view texte) {
 // Fourteen format fields: the nine of the text before the ninth ";", the frame behind it. With
 // fewer fields all of them are the text format and the frame stays empty.
 void CouperFormat(std::string_view format, Texte& formatTexte, Texte& formatCadre) {
-    std::size_t position = std::string_view::npos;
-    for (int n = 0, depart = 0; n < 9; ++n) {
-        position = format.find(';', static_cast<std::size_t>(depart));
-        if (position == std::string_view::npos) break;
-        depart = static_cast<int>(position) + 1;
-    }
+    const std::size_t position = PositionPointVirgule(format, 9);
     if (position == std::string_view::npos) {
         formatTexte = Texte(format);
         formatCadre.clear();
@@ -168,6 +163,15 @@ std::optional<std::string_view> PrendreCrochet(std::string_view& reste) {
     const std::string_view dedans = reste.substr(ouvre + 1, ferme - ouvre - 1);
     reste.remove_prefix(ferme + 1);
     return dedans;
+}
+
+std::size_t PositionPointVirgule(std::string_view texte, int n) {
+    std::size_t position = std::string_view::npos;
+    for (std::size_t depart = 0; n > 0; --n, depart = position + 1) {
+        position = texte.find(';', depart);
+        if (position == std::string_view::npos) break;
+    }
+    return position;
 }
 
 std::int16_t NombreTableau(std::string_view texte) {

@@ -28,6 +28,9 @@ std::int16_t NombreTableau(std::string_view texte);
 // "]". Nothing when either sign is missing (the program's "erreur"), and `reste` is used up.
 std::optional<std::string_view> PrendreCrochet(std::string_view& reste);
 
+// Position of the n-th ";" (n from 1) of `texte`, npos if it holds fewer.
+std::size_t PositionPointVirgule(std::string_view texte, int n);
+
 // Takes the repetition prefix off `code` and sets `genre`, `typeEntete`, `pageDebut`
 // (without prefix: 0, 1, -1).
 void LirePrefixeTableau(Texte& code, TableauModele& tableau);

@@ -63,6 +63,14 @@ TEST(CodeTableau, FormatsManquantsRemplacesParLesDefauts) {
     options.AlignementDefaut = "c";
     EXPECT_EQ(Code(t, options), "taba2p10;larg1000;larg7200([280;120][a;5006;12;1;0;0;0;0;0;c;"
                                 "0;0;0;0;8][espace;5006;12;1;0;0;0;0;0;c;0;0;0;0;8])");
+    // A format short of fields is completed from the defaults.
+    t.lignes[0].cellules[0].formatTexte = "5007;9";
+    t.lignes[0].formatCadre = "2;2";
+    EXPECT_NE(Code(t, options)
+                  .find("[a;5007;9;1;0;0;0;0;0;c;0;0;0;0;8][espace;5006;12;1;0;0;0;0;"
+                        "0;c;2;2;0;0;8]"),
+              Texte::npos);
+    t.lignes[0].formatCadre.clear();
     options.TailleDefaut = 0; // unset
     options.AlignementDefaut.clear();
     EXPECT_NE(Code(t, options).find("[espace;5006;10;1;0;0;0;0;0;l;0;0;0;0;8]"), Texte::npos);
@@ -112,11 +120,12 @@ TEST(CodeTableau, LectureEcritureDeCodesBienFormes) {
     const char* codes[] = {
         "taba2p10;larg1000;larg7200()",
         "tabd3p2cr2;larg1;larg2;larg3([1;2][a;1;2;3;4;5;6;7;8;9;0;0;0;0;8][b;1;2;3;4;5;6;7;8;9;"
-        "1;2;3;4;5][c;a;b;c;d;e;f;g;h;i;j])",
+        "1;2;3;4;5][c;a;b;c;d;e;f;g;h;i;j;k;l;m;n])",
         "cultper015taba2p1r3;larg1000;larg7200([280;120][Total_général;5006;10;1;1;0;0;0;0;l;1;"
         "1;1;1;8][totalC:(LG1+LG2)*100/LG3:7:2;5006;10;1;0;0;0;0;0;r;1;1;1;1;8])",
         "tabd2p10;larg1;larg2([1;2][x;1;2;3;4;5;6;7;8;9;1;2;3;4;5;6;7][4@serie:A.DON+A-1;1;2;3;"
-        "4;5;6;7;8;9;s;c]#[-5;-7][y;1;2;3;4;5;6;7;8;9;s][bidule;1;2;3;4;5;6;7;8;9;s])",
+        "4;5;6;7;8;9;s;c;d;e;f]#[-5;-7][y;1;2;3;4;5;6;7;8;9;s;;;;][bidule;1;2;3;4;5;6;7;8;9;s;;;;"
+        "])",
     };
     for (const char* code : codes) EXPECT_EQ(Code(LireCodeTableau(code)), code);
 }
