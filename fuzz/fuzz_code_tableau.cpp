@@ -1,9 +1,10 @@
-// libFuzzer target of the table code reader, not built by default. Build by hand, e.g.:
-//   clang++ -std=c++20 -g -O1 -fsanitize=fuzzer,address,undefined -Isrc \
-//     fuzz/fuzz_code_tableau.cpp src/tables/LectureCode.cpp src/tables/CodeTableau.cpp \
-//     src/shell/Contexte.cpp src/utils/*.cpp -o fuzz_code_tableau
-// (add whatever Contexte.cpp needs to link). The bytes are a code; the model read from them
-// is written and read again, and the line count must hold.
+// libFuzzer target of the table code reader, not built by default. Build by hand from the
+// repository's root, for instance:
+//   clang++ -std=c++20 -g -O1 -fsanitize=fuzzer,address,undefined -Isrc
+//     fuzz/fuzz_code_tableau.cpp src/tables/LectureCode.cpp src/tables/CodeTableau.cpp
+//     src/utils/Chaines.cpp -o fuzz_code_tableau
+// The bytes are a code; the model read from them is written and read again, and the number of
+// lines must hold.
 
 #include "shell/Etat.h"
 #include "tables/CodeTableau.h"

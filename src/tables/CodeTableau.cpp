@@ -16,8 +16,8 @@ char Chiffre(int valeur) {
     return static_cast<char>('0' + std::clamp(valeur, 0, 9));
 }
 
-// A format as written: empty, the default; short of fields, completed from the default, so
-// that the text part keeps its nine fields and the code reads back the same.
+} // namespace
+
 Texte FormatComplet(const Texte& format, std::string_view defaut) {
     if (Rogner(format).empty()) return Texte(defaut);
     Texte complet = format;
@@ -26,6 +26,8 @@ Texte FormatComplet(const Texte& format, std::string_view defaut) {
     if (suite != std::string_view::npos) complet += defaut.substr(suite);
     return complet;
 }
+
+namespace {
 
 void AjouterFormat(Texte& code, const Texte& formatTexte, const Texte& formatCadre,
                    const Texte& texteDefaut) {

@@ -5,6 +5,8 @@
 #include "tables/TableauModele.h"
 #include "utils/Texte.h"
 
+#include <string_view>
+
 namespace verdane {
 
 class Contexte;
@@ -12,6 +14,10 @@ class Contexte;
 // Text format of a cell that has none: font 5006, the configured size (10 when unset), colour
 // 1, no style, the configured alignment.
 Texte FormatTexteDefaut(const Options& options);
+
+// A format as written: empty after trimming, `defaut`; short of fields, completed with the
+// fields of `defaut` that follow, so that the text part keeps its nine fields.
+Texte FormatComplet(const Texte& format, std::string_view defaut);
 
 // The code of a model. Writing stops at the first line whose definition is empty: its number
 // goes to `ligneIncomplete` (0 when every line is defined) and the code ends behind the lines
