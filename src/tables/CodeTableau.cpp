@@ -94,7 +94,8 @@ Texte CodeModele(const TableauModele& tableau, const Options& options, int& lign
     ligneIncomplete = 0;
     Texte code;
     AjouterEntete(code, tableau);
-    for (int n = 1; n <= tableau.nbLignes(); ++n) {
+    const int nbLignes = std::min<int>(tableau.nbLignes(), kMaxLignesTableau);
+    for (int n = 1; n <= nbLignes; ++n) {
         const LigneModele& ligne = *tableau.Ligne(n);
         if (Rogner(ligne.definition).empty()) {
             ligneIncomplete = n;

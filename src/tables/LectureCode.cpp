@@ -29,17 +29,20 @@ Texte SoulignesEnBlancs(std::string_view texte) {
     return t;
 }
 
-// Fourteen format fields: the nine of the text before the ninth ";", the frame behind it. With
-// fewer fields all of them are the text format and the frame stays empty.
-void CouperFormat(std::string_view format, Texte& formatTexte, Texte& formatCadre) {
-    const std::size_t position = PositionPointVirgule(format, 9);
-    if (position == std::string_view::npos) {
-        formatTexte = Texte(format);
-        formatCadre.clear();
-    } else {
+// A bracket cut at its first ";": the text before it is returned; behind it, the nine fields
+// of the text format before the ninth ";" and the frame after it. With fewer fields all of
+// them are the text format; without ";" both formats are empty.
+Texte CouperCellule(std::string_view contenu, Texte& formatTexte, Texte& formatCadre) {
+    const std::size_t pointVirgule = contenu.find(';');
+    formatTexte.clear();
+    formatCadre.clear();
+    if (pointVirgule != std::string_view::npos) {
+        const std::string_view format = contenu.substr(pointVirgule + 1);
+        const std::size_t position = PositionPointVirgule(format, 9);
         formatTexte = Texte(format.substr(0, position));
-        formatCadre = Texte(format.substr(position + 1));
+        if (position != std::string_view::npos) formatCadre = Texte(format.substr(position + 1));
     }
+    return Texte(contenu.substr(0, pointVirgule));
 }
 
 // A multi-dossier line writes its year as a digit and "@" in front of a cell.
@@ -54,29 +57,14 @@ void LireCelluleLibelle(std::string_view crochet, bool multiDossier, LigneModele
                         CelluleModele& cellule) {
     Texte contenu(crochet);
     if (multiDossier) PrendreAnnee(contenu, ligne);
-    const std::size_t pointVirgule = contenu.find(';');
-    cellule.texte = SoulignesEnBlancs(std::string_view(contenu).substr(0, pointVirgule));
-    if (pointVirgule == Texte::npos) {
-        cellule.formatTexte.clear();
-        cellule.formatCadre.clear();
-    } else {
-        CouperFormat(std::string_view(contenu).substr(pointVirgule + 1), cellule.formatTexte,
-                     cellule.formatCadre);
-    }
+    cellule.texte =
+        SoulignesEnBlancs(CouperCellule(contenu, cellule.formatTexte, cellule.formatCadre));
 }
 
 void LireDefinition(std::string_view crochet, LigneModele& ligne) {
-    const Texte contenu = SoulignesEnBlancs(crochet);
-    const std::size_t pointVirgule = contenu.find(';');
-    ligne.definition = contenu.substr(0, pointVirgule);
+    ligne.definition =
+        CouperCellule(SoulignesEnBlancs(crochet), ligne.formatTexte, ligne.formatCadre);
     PrendreAnnee(ligne.definition, ligne);
-    if (pointVirgule == Texte::npos) {
-        ligne.formatTexte.clear();
-        ligne.formatCadre.clear();
-    } else {
-        CouperFormat(std::string_view(contenu).substr(pointVirgule + 1), ligne.formatTexte,
-                     ligne.formatCadre);
-    }
 }
 
 // Reads the head into `tableau` and gives the text of the lines.

@@ -130,6 +130,18 @@ TEST(CodeTableau, LectureEcritureDeCodesBienFormes) {
     for (const char* code : codes) EXPECT_EQ(Code(LireCodeTableau(code)), code);
 }
 
+TEST(CodeTableau, LimiteDe511Lignes) {
+    TableauModele t;
+    t.nbColonnes = 2;
+    for (int n = 1; n <= 600; ++n) t.lignes.push_back(Ligne("L" + std::to_string(n), "espace"));
+    t.lignes.resize(511);
+    const TableauModele relu = LireCodeTableau(Code(t));
+    EXPECT_EQ(relu, t);
+    // Lines beyond the limit have no slot: they are not written.
+    t.lignes.push_back(Ligne("L512", "espace"));
+    EXPECT_EQ(Code(t), Code(relu));
+}
+
 TEST(CodeTableau, SoulignesEtBlancs) {
     TableauModele t;
     t.lignes = {Ligne("Mon_libellé  ", "totalC:LG1_+_LG2")};

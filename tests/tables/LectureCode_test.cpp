@@ -60,74 +60,53 @@ TEST(LirePrefixeTableau, RepetitionsEtValeursParDefaut) {
     }
 }
 
-TEST(LireEnteteTableau, ToutesLesPieces) {
-    TableauModele t;
-    LireEnteteTableau("tabd4p3cr2;larg1500;larg900;larg700;larg8000([280;120])", t);
-    EXPECT_EQ(t.multiDossier, 1);
-    EXPECT_EQ(t.nbDossiers, 4);
-    EXPECT_EQ(t.nbColonnes, 3);
-    EXPECT_EQ(t.centre, 1);
-    EXPECT_EQ(t.rouge, 1);
-    EXPECT_EQ(t.modeAnnees, 2);
-    EXPECT_EQ(t.largeurs[0], 1500);
-    EXPECT_EQ(t.largeurs[1], 900);
-    EXPECT_EQ(t.largeurs[2], 700);
-    EXPECT_EQ(t.largeurs[3], 1000);
-    EXPECT_EQ(t.largeurValeurs, 8000);
-    EXPECT_TRUE(t.lignes.empty()); // the head leaves the lines alone
-}
-
-TEST(LireEnteteTableau, PiecesAbsentes) {
-    TableauModele t;
-    t.centre = t.rouge = 1;
-    t.modeAnnees = 3;
-    t.largeurs[0] = 5;
-    LireEnteteTableau("tab([280;120][a;b])", t);
-    EXPECT_EQ(t.multiDossier, 0);
-    EXPECT_EQ(t.nbDossiers, 2);
-    EXPECT_EQ(t.nbColonnes, 1);
-    EXPECT_EQ(t.centre, 0);
-    EXPECT_EQ(t.rouge, 0);
-    EXPECT_EQ(t.modeAnnees, 0);
-    EXPECT_EQ(t.largeurs[0], 1000);
-    EXPECT_EQ(t.largeurValeurs, 7200);
-
-    // A value width without its own ";larg" stays at 7200; missing label widths at 1000.
-    LireEnteteTableau("taba2p3;larg2000(", t);
-    EXPECT_EQ(t.largeurs[0], 2000);
-    EXPECT_EQ(t.largeurs[1], 1000);
-    EXPECT_EQ(t.largeurValeurs, 7200);
-    // Other letters in place of the dossier mode consume nothing.
-    LireEnteteTableau("tabp2c;larg1;larg2;larg3(", t);
-    EXPECT_EQ(t.nbDossiers, 2);
-    EXPECT_EQ(t.nbColonnes, 2);
-    EXPECT_EQ(t.centre, 1);
-    EXPECT_EQ(t.largeurValeurs, 3);
-}
-
-TEST(LireEnteteTableau, NombresIllisiblesOuEnormes) {
-    TableauModele t;
-    LireEnteteTableau("taba2p2;larg12cm;larg99999999;larg-40(", t);
-    EXPECT_EQ(t.largeurs[0], 0);
-    EXPECT_EQ(t.largeurs[1], 0);
-    EXPECT_EQ(t.largeurValeurs, -40);
-    LireEnteteTableau("taba2p2;larg;larg;larg(", t);
-    EXPECT_EQ(t.largeurs[0], 0);
-    EXPECT_EQ(t.largeurValeurs, 0);
-    // Label columns: one character only, a non-digit reads 0; "p12" is one column and year
-    // mode 2.
-    LireEnteteTableau("taba2p0;larg5000(", t);
-    EXPECT_EQ(t.nbColonnes, 0);
-    EXPECT_EQ(t.largeurValeurs, 5000);
-    LireEnteteTableau("taba2px", t);
-    EXPECT_EQ(t.nbColonnes, 0);
-    LireEnteteTableau("taba2p12", t);
-    EXPECT_EQ(t.nbColonnes, 1);
-    EXPECT_EQ(t.modeAnnees, 2);
-    LireEnteteTableau("taba", t);
-    EXPECT_EQ(t.nbDossiers, 0);
-    LireEnteteTableau("", t);
-    EXPECT_EQ(t.nbColonnes, 1);
+TEST(LireEnteteTableau, PiecesPresentesAbsentesOuIllisibles) {
+    struct Cas {
+        const char* code;
+        std::int16_t multiDossier, nbDossiers, nbColonnes, centre, rouge, modeAnnees;
+        std::array<std::int16_t, 3> largeurs;
+        std::int16_t largeurValeurs;
+    };
+    const Cas cas[] = {
+        {"tabd4p3cr2;larg1500;larg900;larg700;larg8000([280;120])",
+         1,
+         4,
+         3,
+         1,
+         1,
+         2,
+         {1500, 900, 700},
+         8000},
+        {"tab([280;120][a;b])", 0, 2, 1, 0, 0, 0, {1000, 1000, 1000}, 7200},
+        // Missing label widths stay at 1000, a value width without its ";larg" at 7200.
+        {"taba2p3;larg2000(", 0, 2, 3, 0, 0, 0, {2000, 1000, 1000}, 7200},
+        // Another letter in place of the dossier mode consumes nothing.
+        {"tabp2c;larg1;larg2;larg3(", 0, 2, 2, 1, 0, 0, {1, 2, 1000}, 3},
+        {"taba2p2;larg12cm;larg99999999;larg-40(", 0, 2, 2, 0, 0, 0, {0, 0, 1000}, -40},
+        {"taba2p2;larg;larg;larg(", 0, 2, 2, 0, 0, 0, {0, 0, 1000}, 0},
+        // Label columns: one character, a non-digit reads 0; "p12" is 1 column, year mode 2.
+        {"taba2p0;larg5000(", 0, 2, 0, 0, 0, 0, {1000, 1000, 1000}, 5000},
+        {"taba2px", 0, 2, 0, 0, 0, 0, {1000, 1000, 1000}, 7200},
+        {"taba2p12", 0, 2, 1, 0, 0, 2, {1000, 1000, 1000}, 7200},
+        {"taba", 0, 0, 1, 0, 0, 0, {1000, 1000, 1000}, 7200},
+        {"", 0, 2, 1, 0, 0, 0, {1000, 1000, 1000}, 7200},
+    };
+    for (const Cas& c : cas) {
+        TableauModele t;
+        t.centre = t.rouge = t.modeAnnees = 3;
+        t.largeurs.fill(5);
+        t.lignes.resize(2);
+        LireEnteteTableau(c.code, t);
+        EXPECT_EQ(t.multiDossier, c.multiDossier) << c.code;
+        EXPECT_EQ(t.nbDossiers, c.nbDossiers) << c.code;
+        EXPECT_EQ(t.nbColonnes, c.nbColonnes) << c.code;
+        EXPECT_EQ(t.centre, c.centre) << c.code;
+        EXPECT_EQ(t.rouge, c.rouge) << c.code;
+        EXPECT_EQ(t.modeAnnees, c.modeAnnees) << c.code;
+        for (std::size_t i = 0; i < 3; ++i) EXPECT_EQ(t.largeurs[i], c.largeurs[i]) << c.code;
+        EXPECT_EQ(t.largeurValeurs, c.largeurValeurs) << c.code;
+        EXPECT_EQ(t.nbLignes(), 2); // the head leaves the lines alone
+    }
 }
 
 TEST(LireLignesTableau, CellulesEtFormats) {
