@@ -1,5 +1,7 @@
 #include "tables/LectureCode.h"
 
+#include "shell/Contexte.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
@@ -241,6 +243,36 @@ TEST(LireCodeTableau, CodeCoupeNImporteOu) {
         EXPECT_GE(t.nbColonnes, 0);
         EXPECT_LE(t.nbColonnes, 9);
     }
+}
+
+} // namespace
+} // namespace verdane
+
+namespace verdane {
+namespace {
+
+TEST(LectureCodeParNumero, LectureDansUnEmplacement) {
+    UtilisateurMuet utilisateur;
+    Contexte ctx(utilisateur);
+    ctx.etat.tableaux.TableauxCourants.resize(1);
+    const Texte source = "culture23tabd3p1c;larg1;larg2([1;2][a;b][4@serie:X;c])";
+    Texte code = source;
+    LirePrefixeTableau(ctx, code, 1);
+    LireEnteteTableau(ctx, code, 1);
+    ctx.etat.tableaux.Tableau(1)->nbColonnes = 0; // as a caller may change the head
+    LireLignesTableau(ctx, code, 1);
+    TableauModele attendu = LireCodeTableau(source);
+    attendu.nbColonnes = 0;
+    LireLignesTableau(code, attendu);
+    EXPECT_EQ(ctx.etat.tableaux.TableauxCourants[0], attendu);
+    EXPECT_EQ(attendu.Ligne(1)->definition, "a");
+    // No such slot: nothing happens.
+    for (int numero : {0, 2, -1}) {
+        LirePrefixeTableau(ctx, code, numero);
+        LireEnteteTableau(ctx, code, numero);
+        LireLignesTableau(ctx, code, numero);
+    }
+    EXPECT_EQ(ctx.etat.tableaux.TableauxCourants.size(), 1u);
 }
 
 } // namespace
