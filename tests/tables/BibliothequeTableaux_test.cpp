@@ -1,0 +1,162 @@
+#include "tables/BibliothequeTableaux.h"
+
+#include "EssaisTableaux.h"
+#include "shell/Contexte.h"
+#include "tables/LectureCode.h"
+#include "utils/OutilsFichiers.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+
+namespace verdane {
+namespace {
+
+using namespace essais_tableaux;
+
+class BibliothequeTableaux : public ::testing::Test {
+protected:
+    BibliothequeTableaux() : ctx(utilisateur) {
+        dossier = std::filesystem::temp_directory_path() /
+                  ("verdane_tableaux_" +
+                   std::to_string(::testing::UnitTest::GetInstance()->current_test_info()->line()));
+        std::filesystem::remove_all(dossier);
+        std::filesystem::create_directories(dossier / "PDE");
+    }
+    ~BibliothequeTableaux() override { std::filesystem::remove_all(dossier); }
+
+    Texte Chemin(const char* nom) const { return CheminTexte(dossier) + "/" + nom; }
+    void Ecrire(const char* nom, const std::string& contenu) const {
+        std::ofstream(CheminSysteme(Chemin(nom)), std::ios::binary) << contenu;
+    }
+    std::vector<TableauModele>& Tableaux() { return ctx.etat.tableaux.TableauxCourants; }
+
+    UtilisateurTemoin utilisateur;
+    Contexte ctx;
+    std::filesystem::path dossier;
+};
+
+TEST_F(BibliothequeTableaux, EcritureEtRelectureSansPerte) {
+    TableauModele a = ModeleComplet();
+    a.nom = "Marge brute à l'hectare";
+    a.dossier = "Résultats";
+    a.sousDossier = "Cultures";
+    TableauModele b = ModeleComplet();
+    b.nom = "Par culture";
+    b.dossier = "Divers";
+    b.genre = kTableauCulture;
+    b.pageDebut = 3;
+    TableauModele c;
+    c.nom = "Vide";
+    c.dossier = "Divers";
+    Tableaux() = {a, b, c};
+
+    const Texte chemin = Chemin("tableaux.txt");
+    ASSERT_TRUE(EcrireTableaux(ctx, chemin));
+    const auto premier = LireFichier(chemin);
+    ASSERT_TRUE(premier);
+    EXPECT_TRUE(premier->starts_with("[Marge brute à l'hectare][Résultats][Cultures]\r\n#mrl(tab"));
+    EXPECT_TRUE(premier->ends_with(")#\r\n\r\n"));
+
+    Tableaux().clear();
+    ChargerTableaux(ctx, chemin, true);
+    ASSERT_EQ(Tableaux().size(), 3u);
+    EXPECT_EQ(Tableaux()[0], a);
+    EXPECT_EQ(Tableaux()[1], b);
+    EXPECT_EQ(Tableaux()[2], c);
+    ASSERT_TRUE(EcrireTableaux(ctx, chemin));
+    EXPECT_EQ(LireFichier(chemin), premier);
+    EXPECT_TRUE(utilisateur.messages.empty());
+}
+
+TEST_F(BibliothequeTableaux, SansDetailNiLignes) {
+    TableauModele a = ModeleComplet();
+    a.nom = "A";
+    a.dossier = "D";
+    a.multiDossier = 1;
+    a.nbDossiers = 5;
+    a.genre = kTableauActiviteLibre; // not written in mode "d"
+    const Texte texte = TexteTableaux({a}, Options{});
+    const auto tableaux = LireTexteTableaux(texte, false);
+    ASSERT_EQ(tableaux.size(), 1u);
+    EXPECT_EQ(tableaux[0].nom, "A");
+    EXPECT_EQ(tableaux[0].nbDossiers, 5);
+    EXPECT_EQ(tableaux[0].nbColonnes, 2);
+    EXPECT_EQ(tableaux[0].largeurValeurs, 9000);
+    EXPECT_EQ(tableaux[0].genre, kTableauClassique);
+    EXPECT_EQ(tableaux[0].nbLignes(), 0);
+}
+
+TEST_F(BibliothequeTableaux, LignesDEntreeMalFormees) {
+    const Texte texte = "Texte libre avant\r\n"
+                        "\r\n"
+                        "[Sans dossier][]\r\n"
+                        "#mrl(taba2p1;larg1;larg2([280;120][a;b][espace]))#\r\n"
+                        " [décalé][X][Y]\n"
+                        "[Deux][  ]\n"
+                        "  #mrl(cultper2tab)#  \n"
+                        "\n"
+                        "[Un seul\r"
+                        "#mrl()#\r"
+                        "[][Dossier][Sous]][plus]\r\n"
+                        "#mrl(tab)#";
+    const auto tableaux = LireTexteTableaux(texte, true);
+    ASSERT_EQ(tableaux.size(), 4u);
+    EXPECT_EQ(tableaux[0].nom, "Sans dossier");
+    EXPECT_EQ(tableaux[0].dossier, "Divers");
+    EXPECT_EQ(tableaux[0].sousDossier, "");
+    EXPECT_EQ(tableaux[0].nbLignes(), 1);
+    EXPECT_EQ(tableaux[1].nom, "Deux");
+    EXPECT_EQ(tableaux[1].dossier, "Divers");
+    EXPECT_EQ(tableaux[1].genre, kTableauCulturePerenne);
+    EXPECT_EQ(tableaux[1].typeEntete, 2);
+    EXPECT_EQ(tableaux[2].nom, "erreur"); // a bracket without its "]"
+    EXPECT_EQ(tableaux[2].dossier, "erreur");
+    EXPECT_EQ(tableaux[2].nbLignes(), 0);
+    EXPECT_EQ(tableaux[3].nom, "");
+    EXPECT_EQ(tableaux[3].dossier, "Dossier");
+    EXPECT_EQ(tableaux[3].sousDossier, "Sous");
+}
+
+TEST_F(BibliothequeTableaux, UneMarqueIllisibleArreteLaLecture) {
+    const Texte texte = "[A][D][]\r\n#mrl(tab)#\r\n\r\n"
+                        "[B][D][]\r\n#mrl(tab)\r\n\r\n" // mark not closed: the rest is lost
+                        "[C][D][]\r\n#mrl(tab)#\r\n\r\n";
+    const auto tableaux = LireTexteTableaux(texte, true);
+    ASSERT_EQ(tableaux.size(), 1u);
+    EXPECT_EQ(tableaux[0].nom, "A");
+    // A name line at the very end has no code: no table.
+    EXPECT_EQ(LireTexteTableaux("[A][D][]\r\n#mrl(tab)#\r\n[B][D][]", true).size(), 1u);
+    EXPECT_EQ(LireTexteTableaux("[B][D][]\r\n\r\n#mrl(tab)#", true).size(), 0u);
+}
+
+TEST_F(BibliothequeTableaux, FichierAbsentOuVide) {
+    Tableaux() = {TableauModele{}};
+    ChargerTableaux(ctx, Chemin("absent.txt"), true);
+    EXPECT_TRUE(Tableaux().empty());
+    Ecrire("vide.txt", "");
+    Tableaux() = {TableauModele{}};
+    ChargerTableaux(ctx, Chemin("vide.txt"), true);
+    EXPECT_TRUE(Tableaux().empty());
+    EXPECT_TRUE(utilisateur.messages.empty());
+}
+
+TEST_F(BibliothequeTableaux, BibliothequePDEEtTableauIncomplet) {
+    TableauModele a = ModeleComplet();
+    a.nom = "Page 3";
+    a.dossier = "PDE";
+    a.lignes[4].definition.clear();
+    Tableaux() = {a};
+    const Texte chemin = CheminTexte(dossier) + "\\pde\\TABLEAUX.TXT";
+    ASSERT_TRUE(EcrireTableaux(ctx, Chemin("PDE/tableaux.txt")));
+    EXPECT_EQ(LireFichier(chemin), Texte("[Page 3][PDE][]\r\n#mrl()#\r\n\r\n"));
+    EXPECT_TRUE(utilisateur.messages.empty()); // the library is written silently
+    ChargerTableaux(ctx, chemin, true);
+    ASSERT_EQ(Tableaux().size(), 1u);
+    EXPECT_EQ(Tableaux()[0].nom, "Page 3");
+    EXPECT_EQ(Tableaux()[0].nbLignes(), 0);
+}
+
+} // namespace
+} // namespace verdane

@@ -1,0 +1,219 @@
+#include "tables/CodeTableau.h"
+
+#include "EssaisTableaux.h"
+#include "shell/Contexte.h"
+#include "tables/LectureCode.h"
+
+#include <gtest/gtest.h>
+
+namespace verdane {
+namespace {
+
+using namespace essais_tableaux;
+
+Texte Code(const TableauModele& t, const Options& options = Options{}) {
+    int incomplete = 0;
+    Texte code = CodeModele(t, options, incomplete);
+    EXPECT_EQ(incomplete, 0);
+    return code;
+}
+
+TEST(CodeTableau, FormeExacte) {
+    TableauModele t;
+    t.centre = 1;
+    t.rouge = 1;
+    t.modeAnnees = kAnneeDebutEtToutes;
+    t.largeurs[0] = 2000;
+    t.lignes = {Ligne("Produit brut", "serie:PROD.DON+PROD-3:0:1"), Ligne("", "newpg")};
+    t.lignes[1].hauteur = 0;
+    EXPECT_EQ(Code(t), "taba2p1cr1;larg2000;larg7200([280;120][Produit_brut;5006;10;1;1;0;0;0;0;"
+                       "l;1;1;1;1;8][serie:PROD.DON+PROD-3:0:1;5006;10;1;0;0;0;0;0;r;1;1;1;1;8]#"
+                       "[0;120][;5006;10;1;1;0;0;0;0;l;1;1;1;1;8][newpg;5006;10;1;0;0;0;0;0;r;1;"
+                       "1;1;1;8])");
+    t.lignes.clear();
+    t.centre = t.rouge = 0;
+    t.modeAnnees = -1; // not written
+    t.nbColonnes = 3;
+    EXPECT_EQ(Code(t), "taba2p3;larg2000;larg1000;larg1000;larg7200()");
+}
+
+TEST(CodeTableau, PrefixeDeRepetition) {
+    TableauModele t;
+    t.genre = kTableauCulturePerenne;
+    t.typeEntete = 2;
+    EXPECT_EQ(Code(t).substr(0, 12), "cultper2taba");
+    t.pageDebut = 12;
+    t.genre = kTableauActiviteLibre;
+    EXPECT_EQ(Code(t).substr(0, 13), "actlibr212tab");
+    // Only in mode "a".
+    t.multiDossier = 1;
+    t.nbDossiers = 4;
+    EXPECT_EQ(Code(t).substr(0, 5), "tabd4");
+}
+
+TEST(CodeTableau, FormatsManquantsRemplacesParLesDefauts) {
+    TableauModele t;
+    LigneModele ligne;
+    ligne.cellules[0].texte = "a";
+    ligne.cellules[0].formatTexte = "   ";
+    ligne.definition = "espace";
+    t.lignes = {ligne};
+    Options options;
+    options.TailleDefaut = 12;
+    options.AlignementDefaut = "c";
+    EXPECT_EQ(Code(t, options), "taba2p10;larg1000;larg7200([280;120][a;5006;12;1;0;0;0;0;0;c;"
+                                "0;0;0;0;8][espace;5006;12;1;0;0;0;0;0;c;0;0;0;0;8])");
+    // A format short of fields is completed from the defaults.
+    t.lignes[0].cellules[0].formatTexte = "5007;9";
+    t.lignes[0].formatCadre = "2;2";
+    EXPECT_NE(Code(t, options)
+                  .find("[a;5007;9;1;0;0;0;0;0;c;0;0;0;0;8][espace;5006;12;1;0;0;0;0;"
+                        "0;c;2;2;0;0;8]"),
+              Texte::npos);
+    t.lignes[0].formatCadre.clear();
+    options.TailleDefaut = 0; // unset
+    options.AlignementDefaut.clear();
+    EXPECT_NE(Code(t, options).find("[espace;5006;10;1;0;0;0;0;0;l;0;0;0;0;8]"), Texte::npos);
+}
+
+TEST(CodeTableau, AllerRetourDeModeles) {
+    std::vector<TableauModele> modeles;
+    modeles.push_back(ModeleComplet());
+    TableauModele d = ModeleComplet();
+    d.multiDossier = 1;
+    d.nbDossiers = 9;
+    d.modeAnnees = 0;
+    for (std::size_t i = 0; i < d.lignes.size(); ++i)
+        if (d.lignes[i].definition.starts_with("serie")) d.lignes[i].annee = 3;
+    modeles.push_back(d);
+    for (std::int16_t genre = 1; genre <= 3; ++genre) {
+        TableauModele r = ModeleComplet();
+        r.genre = genre;
+        r.typeEntete = static_cast<std::int16_t>(genre - 1);
+        r.pageDebut = genre == 2 ? -1 : static_cast<std::int16_t>(7 * genre);
+        r.modeAnnees = static_cast<std::int16_t>(genre);
+        r.centre = 0;
+        modeles.push_back(r);
+    }
+    TableauModele large = ModeleComplet();
+    large.nbColonnes = 9;
+    for (std::size_t c = 0; c < 9; ++c) {
+        large.largeurs[c] = static_cast<std::int16_t>(100 * c);
+        for (LigneModele& l : large.lignes)
+            l.cellules[c] = {"c" + std::to_string(c), kTexteSimple, kCadre};
+    }
+    modeles.push_back(large);
+    TableauModele vide;
+    vide.nbColonnes = 0;
+    modeles.push_back(vide);
+
+    for (const TableauModele& m : modeles) {
+        const Texte code = Code(m);
+        EXPECT_EQ(code.find(' '), Texte::npos);
+        const TableauModele relu = LireCodeTableau(code);
+        EXPECT_EQ(relu, m) << code;
+        EXPECT_EQ(Code(relu), code);
+    }
+}
+
+TEST(CodeTableau, LectureEcritureDeCodesBienFormes) {
+    const char* codes[] = {
+        "taba2p10;larg1000;larg7200()",
+        "tabd3p2cr2;larg1;larg2;larg3([1;2][a;1;2;3;4;5;6;7;8;9;0;0;0;0;8][b;1;2;3;4;5;6;7;8;9;"
+        "1;2;3;4;5][c;a;b;c;d;e;f;g;h;i;j;k;l;m;n])",
+        "cultper015taba2p1r3;larg1000;larg7200([280;120][Total_général;5006;10;1;1;0;0;0;0;l;1;"
+        "1;1;1;8][totalC:(LG1+LG2)*100/LG3:7:2;5006;10;1;0;0;0;0;0;r;1;1;1;1;8])",
+        "tabd2p10;larg1;larg2([1;2][x;1;2;3;4;5;6;7;8;9;1;2;3;4;5;6;7][4@serie:A.DON+A-1;1;2;3;"
+        "4;5;6;7;8;9;s;c;d;e;f]#[-5;-7][y;1;2;3;4;5;6;7;8;9;s;;;;][bidule;1;2;3;4;5;6;7;8;9;s;;;;"
+        "])",
+    };
+    for (const char* code : codes) EXPECT_EQ(Code(LireCodeTableau(code)), code);
+}
+
+TEST(CodeTableau, LimiteDe511Lignes) {
+    TableauModele t;
+    t.nbColonnes = 2;
+    for (int n = 1; n <= 600; ++n) t.lignes.push_back(Ligne("L" + std::to_string(n), "espace"));
+    t.lignes.resize(511);
+    const TableauModele relu = LireCodeTableau(Code(t));
+    EXPECT_EQ(relu, t);
+    // Lines beyond the limit have no slot: they are not written.
+    t.lignes.push_back(Ligne("L512", "espace"));
+    EXPECT_EQ(Code(t), Code(relu));
+}
+
+TEST(CodeTableau, SoulignesEtBlancs) {
+    TableauModele t;
+    t.lignes = {Ligne("Mon_libellé  ", "totalC:LG1_+_LG2")};
+    const Texte code = Code(t);
+    EXPECT_NE(code.find("[Mon_libellé__;"), Texte::npos);
+    const TableauModele relu = LireCodeTableau(code);
+    EXPECT_EQ(relu.Ligne(1)->cellules[0].texte, "Mon libellé  "); // "_" comes back as a space
+    EXPECT_EQ(relu.Ligne(1)->definition, "totalC:LG1 + LG2");
+}
+
+TEST(CodeTableau, ValeursHorsDesChiffres) {
+    TableauModele t;
+    t.nbColonnes = 12;
+    t.nbDossiers = 15;
+    t.multiDossier = 1;
+    t.modeAnnees = 10;
+    t.lignes = {Ligne("a", "serie:A")};
+    t.lignes[0].annee = 13;
+    const Texte code = Code(t);
+    EXPECT_TRUE(code.starts_with("tabd9p9;larg")) << code;
+    EXPECT_NE(code.find("[9@serie:A;"), Texte::npos);
+    const TableauModele relu = LireCodeTableau(code);
+    EXPECT_EQ(relu.nbColonnes, 9);
+    EXPECT_EQ(relu.modeAnnees, 0);
+    EXPECT_EQ(relu.Ligne(1)->definition, "serie:A");
+}
+
+class CodeTableauIncomplet : public ::testing::Test {
+protected:
+    CodeTableauIncomplet() : ctx(utilisateur) {
+        TableauModele t;
+        t.nom = "Résultats";
+        t.dossier = "Divers";
+        t.lignes = {Ligne("a", "espace"), Ligne("b", "espace"), Ligne("c", " "),
+                    Ligne("d", "espace")};
+        ctx.etat.tableaux.TableauxCourants = {TableauModele{}, t};
+    }
+    UtilisateurTemoin utilisateur;
+    Contexte ctx;
+};
+
+TEST_F(CodeTableauIncomplet, ModeSilencieux) {
+    EXPECT_EQ(CodeTableau(ctx, 2, true), "");
+    EXPECT_TRUE(utilisateur.messages.empty());
+}
+
+TEST_F(CodeTableauIncomplet, MessageEtCodeDesLignesPrecedentes) {
+    const Texte code = CodeTableau(ctx, 2, false);
+    EXPECT_TRUE(code.ends_with("[b;5006;10;1;1;0;0;0;0;l;1;1;1;1;8][espace;5006;10;1;0;0;0;0;0;"
+                               "r;1;1;1;1;8])"))
+        << code;
+    EXPECT_EQ(LireCodeTableau(code).nbLignes(), 2);
+    ASSERT_EQ(utilisateur.messages.size(), 1u);
+    EXPECT_EQ(utilisateur.messages[0].texte,
+              "Il vous faut définir les cellules de la ligne 3 du tableau n°2 \"Résultats\" dans "
+              "le dossier \"Divers\".");
+    EXPECT_EQ(utilisateur.messages[0].titre, "Edition d'un tableau : définition incomplète !");
+
+    ctx.etat.tableaux.Tableau(2)->sousDossier = "Bilans";
+    ctx.etat.tableaux.Tableau(2)->lignes[0].definition.clear();
+    EXPECT_EQ(CodeTableau(ctx, 2, false), "taba2p10;larg1000;larg7200()");
+    EXPECT_EQ(utilisateur.messages.back().texte,
+              "Il vous faut définir les cellules de la ligne 1 du tableau n°2 \"Résultats\" dans "
+              "le dossier \"Divers\", sous-dossier : \"Bilans\".");
+}
+
+TEST_F(CodeTableauIncomplet, NumeroSansTableau) {
+    EXPECT_EQ(CodeTableau(ctx, 0, false), "");
+    EXPECT_EQ(CodeTableau(ctx, 3, false), "");
+    EXPECT_EQ(CodeTableau(ctx, 1, false), "taba2p10;larg1000;larg7200()");
+    EXPECT_TRUE(utilisateur.messages.empty());
+}
+
+} // namespace
+} // namespace verdane
