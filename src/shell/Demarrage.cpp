@@ -1,6 +1,7 @@
 #include "shell/Demarrage.h"
 
 #include "data/ChargerDossier.h"
+#include "data/FormatNombre.h"
 #include "engine/CreationDoc.h"
 #include "shell/Chemins.h"
 #include "shell/Options.h"
@@ -42,6 +43,7 @@ int TravailSansFenetre(Contexte& ctx, const Texte& travail) {
 } // namespace
 
 bool Initialiser(Contexte& ctx, const Environnement& env) {
+    ctx.etat.marques = MarquesDuSysteme();
     InitialiserChemins(ctx.etat, env.dossierProgramme, env.marloHome);
     ChargerOptions(ctx.etat);
     return ChargerParametres(ctx);

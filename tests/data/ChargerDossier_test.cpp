@@ -1,6 +1,6 @@
 #include "data/ChargerDossier.h"
 
-#include "FauxUtilisateurDonnees.h"
+#include "EssaisDonnees.h"
 #include "utils/Chaines.h"
 
 #include <gtest/gtest.h>

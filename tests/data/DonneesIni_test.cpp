@@ -1,6 +1,6 @@
 #include "data/DonneesIni.h"
 
-#include "FauxUtilisateurDonnees.h"
+#include "EssaisDonnees.h"
 
 #include <gtest/gtest.h>
 
@@ -24,7 +24,7 @@ TEST(LireDonneesIni, SectionParDefautOuNommee) {
     EXPECT_EQ(LireDonneesIni(ctx, "INI:Absente"), "");
     EXPECT_EQ(LireDonneesIni(ctx, "INI:"), "");
     EXPECT_EQ(LireDonneesIni(ctx, "INI"), "");
-    EXPECT_TRUE(u.boites.empty());
+    EXPECT_TRUE(u.messages.empty());
     EXPECT_TRUE(u.messages.empty());
 }
 
@@ -34,9 +34,9 @@ TEST(LireDonneesIni, FichierAbsent) {
     Contexte ctx(u);
     ctx.etat.chemins.RepVerdane = d.Chemin();
     EXPECT_EQ(LireDonneesIni(ctx, "INI:Nom"), "");
-    ASSERT_EQ(u.boites.size(), 1u);
-    EXPECT_EQ(u.boites[0].texte, "Attention ! Le fichier \"donnees.INI\" n'existe pas dans le "
-                                 "répertoire de Winmarlo\\Verdane\\ ! Données non récupérable !");
+    ASSERT_EQ(u.messages.size(), 1u);
+    EXPECT_EQ(u.messages[0].texte, "Attention ! Le fichier \"donnees.INI\" n'existe pas dans le "
+                                   "répertoire de Winmarlo\\Verdane\\ ! Données non récupérable !");
 }
 
 } // namespace

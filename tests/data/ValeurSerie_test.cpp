@@ -1,6 +1,6 @@
 #include "data/ValeurCode.h"
 
-#include "FauxUtilisateurDonnees.h"
+#include "EssaisDonnees.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,8 @@
-#include "Fabrique.h"
 #include "shell/Demarrage.h"
 #include "shell/Options.h"
 #include "shell/Parametres.h"
-#include "support/DossierTemporaire.h"
 #include "support/FauxUtilisateur.h"
+#include "support/InstallationTemporaire.h"
 #include "utils/Chaines.h"
 
 #include <gtest/gtest.h>
@@ -11,33 +10,24 @@
 namespace verdane {
 namespace {
 
-// A small Marlo installation: parameters, one dossier, a model.
-class Installation : public ::testing::Test {
+class Installation : public ::testing::Test, protected test::InstallationTemporaire {
 protected:
-    Installation() : ctx(u) {
-        d.Ecrire("Marlo/ParamLog/Marlo.par", EcrireOctetsParametres({EnrOrganisme{}, {}}));
-        d.Ecrire("Marlo/Dossiers/DUPONT/DUPONT",
-                 fabrique::FabriquerDossier(fabrique::LireDescription(
-                     "[dossier]\nnom=DUPONT\nnbAnEtude=5\nanneeDebut=2024\n")));
-        d.Ecrire("a b/m.vdm", "{\\rtf1 Bonjour #mrl(nomDossier)#}");
-        env.marloHome = d.Texte_() + "Marlo";
-    }
+    Installation() : ctx(u) {}
 
     int Executer(const std::string& ligne) {
         return ExecuterProgramme(ctx, LigneCommande(ligne), env);
     }
 
-    test::DossierTemporaire d;
     test::FauxUtilisateur u;
     Contexte ctx;
-    Environnement env;
 };
 
 } // namespace
 
 TEST_F(Installation, LeTravailIniCreeLeResultat) {
-    EXPECT_EQ(Executer("INI \"" + d / "a b/m.vdm" + "\" \"" + d / "a b/r.rtf" + "\" \"\" remplacer"),
-              kSortieFaite);
+    EXPECT_EQ(
+        Executer("INI \"" + d / "a b/m.vdm" + "\" \"" + d / "a b/r.rtf" + "\" \"\" remplacer"),
+        kSortieFaite);
     EXPECT_EQ(d.Lire("a b/r.rtf"), "{\\rtf1 Bonjour #mrl(nomDossier)#\r\n}\r\n");
     // The same job with "#esp#" for the blanks, in lower case.
     EXPECT_EQ(Executer("ini " + Remplacer(d / "a b/m.vdm", " ", "#esp#") + " " +
@@ -46,7 +36,7 @@ TEST_F(Installation, LeTravailIniCreeLeResultat) {
     EXPECT_EQ(d.Lire("a b/r2.rtf"), d.Lire("a b/r.rtf"));
     // The options are saved at the end, with the current dossier blanked by the job.
     Etat relu;
-    relu.chemins.RepVerdane = d.Texte_() + "Marlo/Verdane/";
+    relu.chemins.RepVerdane = d.Chemin() + "Marlo/Verdane/";
     ChargerOptions(relu);
     EXPECT_TRUE(relu.NomDossier[0].empty());
 }
@@ -65,7 +55,7 @@ TEST_F(Installation, CeQuiEmpecheUnTravail) {
     EXPECT_EQ(Executer("INI \"  \" " + d / "r.rtf"), kSortieFaite); // empty model: nothing, quietly
     EXPECT_EQ(Executer("FAIRE quelque chose"), kSortieUsage);
     EXPECT_EQ(Executer(""), kSortieUsage);
-    env.marloHome = d.Texte_() + "Ailleurs";
+    env.marloHome = d.Chemin() + "Ailleurs";
     EXPECT_EQ(Executer("INI a b"), kSortieEchec);
     EXPECT_NE(u.ToutCeQuiAEteDit().find("WinMarlo est introuvable !"), Texte::npos);
 }
@@ -73,9 +63,9 @@ TEST_F(Installation, CeQuiEmpecheUnTravail) {
 TEST_F(Installation, UnTravailDeDossierChargeLeDossier) {
     for (const std::string fin : {"", "/"}) {
         Contexte c(u);
-        EXPECT_EQ(ExecuterProgramme(c, LigneCommande("creer " + d / "Marlo/Dossiers/DUPONT" + fin),
-                                    env),
-                  kSortieUsage); // no dialog in this build
+        EXPECT_EQ(
+            ExecuterProgramme(c, LigneCommande("creer " + d / "Marlo/Dossiers/DUPONT" + fin), env),
+            kSortieUsage); // no dialog in this build
         EXPECT_EQ(Rogner(c.etat.enrDossier.nom), "DUPONT");
         EXPECT_EQ(c.etat.NomDossier[0], "DUPONT");
         EXPECT_EQ(c.etat.nbAnEtude, 5);
@@ -83,7 +73,8 @@ TEST_F(Installation, UnTravailDeDossierChargeLeDossier) {
     Contexte blancs(u);
     Initialiser(blancs, env);
     d.Ecrire("Marlo/Dossiers/LE PRE/LE PRE", std::string(2110, ' '));
-    PreparerDossierLigneCommande(blancs, LigneCommande("CERFA " + Remplacer(d / "Marlo/Dossiers/LE PRE", " ", "#mrl#")));
+    PreparerDossierLigneCommande(
+        blancs, LigneCommande("CERFA " + Remplacer(d / "Marlo/Dossiers/LE PRE", " ", "#mrl#")));
     EXPECT_EQ(blancs.etat.NomDossier[0], "LE PRE");
     Contexte absent(u);
     PreparerDossierLigneCommande(absent, LigneCommande("GRAPH " + d / "Marlo/Dossiers/PERSONNE"));

@@ -8,7 +8,7 @@ namespace {
 
 Etat EtatDans(const test::DossierTemporaire& d) {
     Etat e;
-    e.chemins.RepVerdane = d.Texte_() + "Verdane/";
+    e.chemins.RepVerdane = d.Chemin() + "Verdane/";
     return e;
 }
 
@@ -49,12 +49,18 @@ TEST(Options, LesEnregistrementsSontALeurPlace) {
     e.options.CouleurAnnotation = 7;
     e.options.TailleDefaut = 12;
     const std::string o = OctetsOptions(e);
-    EXPECT_EQ(o.substr(0, 5), std::string("\x03\x00" "abc", 5));
-    EXPECT_EQ(o.substr(6 * 128, 4), std::string("\x02\x00" "N0", 4));       // record 7
-    EXPECT_EQ(o.substr(17 * 128, 11), std::string("\x09\x00" "1;1;1;1;8", 11)); // record 18
-    EXPECT_EQ(o[27 * 128], 1);  // record 28
-    EXPECT_EQ(o[28 * 128], 7);  // record 29
-    EXPECT_EQ(o[43 * 128], 12); // record 44
+    EXPECT_EQ(o.substr(0, 5), std::string("\x03\x00"
+                                          "abc",
+                                          5));
+    EXPECT_EQ(o.substr(6 * 128, 4), std::string("\x02\x00"
+                                                "N0",
+                                                4)); // record 7
+    EXPECT_EQ(o.substr(17 * 128, 11), std::string("\x09\x00"
+                                                  "1;1;1;1;8",
+                                                  11));            // record 18
+    EXPECT_EQ(o[27 * 128], 1);                                     // record 28
+    EXPECT_EQ(o[28 * 128], 7);                                     // record 29
+    EXPECT_EQ(o[43 * 128], 12);                                    // record 44
     EXPECT_EQ(o.substr(44 * 128, 3), std::string("\x01\x00l", 3)); // record 45
 }
 
@@ -71,7 +77,7 @@ TEST(Options, FichierAbsentTropCourtTronqueOuAberrant) {
     test::DossierTemporaire d;
     Etat absent = EtatDans(d);
     ChargerOptions(absent); // creates the folder, keeps the defaults
-    EXPECT_TRUE(std::filesystem::is_directory(d.Chemin() / "Verdane"));
+    EXPECT_TRUE(std::filesystem::is_directory(d.Systeme() / "Verdane"));
     EXPECT_EQ(absent.options.sautParagraphe, 1);
     EXPECT_EQ(absent.options.FormatsDefaut[0], "1;1;1;1;8");
 

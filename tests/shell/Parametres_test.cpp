@@ -47,8 +47,8 @@ TEST(Parametres, PlusDOrganismesQueDePlacesEtNombreNegatif) {
 
 TEST(Parametres, UnFichierTronqueOuAbsentArreteLeProgrammeAvecLeMessage) {
     const std::string entier = EcrireOctetsParametres(Organismes(4));
-    for (std::size_t taille : {std::size_t{0}, std::size_t{100}, kTailleEnteteParametres,
-                               entier.size() - 3}) {
+    for (std::size_t taille :
+         {std::size_t{0}, std::size_t{100}, kTailleEnteteParametres, entier.size() - 3}) {
         Etat e;
         EXPECT_TRUE(LireOctetsParametres(e, entier.substr(0, taille)).has_value()) << taille;
     }
@@ -56,7 +56,7 @@ TEST(Parametres, UnFichierTronqueOuAbsentArreteLeProgrammeAvecLeMessage) {
     test::DossierTemporaire d;
     test::FauxUtilisateur u;
     Contexte ctx(u);
-    ctx.etat.chemins.RepWinMarlo = d.Texte_();
+    ctx.etat.chemins.RepWinMarlo = d.Chemin();
     EXPECT_FALSE(ChargerParametres(ctx));
     ASSERT_EQ(u.messages.size(), 1u);
     EXPECT_EQ(u.messages[0].texte.rfind("WinMarlo est introuvable ! Détail de l'erreur : ", 0), 0u);

@@ -27,15 +27,17 @@ public:
     DossierTemporaire& operator=(const DossierTemporaire&) = delete;
 
     // The folder as text of the engine, ending with a separator.
-    Texte Texte_() const { return chemin_.string() + "/"; }
+    Texte Chemin() const { return Utf8VersCp1252(chemin_.string()) + "/"; }
     // A path inside, as text of the engine.
-    Texte operator/(std::string_view nom) const { return Texte_() + std::string(nom); }
-    const std::filesystem::path& Chemin() const { return chemin_; }
+    Texte operator/(std::string_view nom) const { return Chemin() + std::string(nom); }
+    const std::filesystem::path& Systeme() const { return chemin_; }
 
-    void Ecrire(std::string_view nom, std::string_view contenu) const {
+    // Writes `contenu` to `nom` (relative, folders made as needed); returns its path.
+    Texte Ecrire(std::string_view nom, std::string_view contenu) const {
         const auto p = chemin_ / std::string(nom);
         std::filesystem::create_directories(p.parent_path());
         std::ofstream(p, std::ios::binary) << contenu;
+        return *this / nom;
     }
     std::string Lire(std::string_view nom) const {
         std::ifstream f(chemin_ / std::string(nom), std::ios::binary);

@@ -1,5 +1,6 @@
 #pragma once
-// A user port that records what the program says and asks, and answers from a script.
+// A user port that records what the program says (message forms and boxes, in order; a box
+// has the kind "boite") and asks, and answers from a script (else with the default).
 
 #include "shell/PortUtilisateur.h"
 
@@ -35,6 +36,14 @@ public:
         jauges.push_back(std::to_string(largeur) + ":" + libelle);
     }
     void FermerJauge() override { jauges.push_back("fermer"); }
+
+    // True if a message or a box said `morceau` in its main or technical text.
+    bool ADit(const Texte& morceau) const {
+        for (const auto& m : messages)
+            if (m.texte.find(morceau) != Texte::npos || m.technique.find(morceau) != Texte::npos)
+                return true;
+        return false;
+    }
 
     // Every main text, technical text and title said so far, joined: for "was it said".
     std::string ToutCeQuiAEteDit() const {

@@ -2,18 +2,14 @@
 // Helpers of the table model tests: a user port that records what it is told, and sample
 // models.
 
-#include "shell/PortUtilisateur.h"
+#include "support/FauxUtilisateur.h"
 #include "tables/TableauModele.h"
 
 #include <vector>
 
 namespace verdane::essais_tableaux {
 
-class UtilisateurTemoin : public UtilisateurMuet {
-public:
-    void AfficherMessage(const Message& message) override { messages.push_back(message); }
-    std::vector<Message> messages;
-};
+using UtilisateurTemoin = test::FauxUtilisateur;
 
 inline constexpr const char* kTexteGras = "5006;10;1;1;0;0;0;0;l";
 inline constexpr const char* kTexteSimple = "5006;10;1;0;0;0;0;0;r";

@@ -4,6 +4,8 @@
 #include "tables/Calculateur.h"
 #include "utils/Chaines.h"
 
+#include "support/FauxUtilisateur.h"
+
 #include <gtest/gtest.h>
 
 #include <map>
@@ -12,27 +14,7 @@
 namespace verdane {
 namespace {
 
-// Keeps what the program says; answers questions with their default.
-class UtilisateurTemoin : public UtilisateurMuet {
-public:
-    struct Dit {
-        Texte texte, technique, titre;
-    };
-    std::vector<Dit> dits;
-
-    void AfficherMessage(const Message& m) override {
-        dits.push_back({m.texte, m.technique, m.titre});
-    }
-    void Boite(const Texte& texte, const Texte& titre, Icone) override {
-        dits.push_back({texte, "", titre});
-    }
-    bool ADit(const Texte& morceau) const {
-        for (const Dit& d : dits)
-            if (d.texte.find(morceau) != Texte::npos || d.technique.find(morceau) != Texte::npos)
-                return true;
-        return false;
-    }
-};
+using UtilisateurTemoin = test::FauxUtilisateur;
 
 class Formules : public ::testing::Test {
 protected:
@@ -78,7 +60,7 @@ TEST_F(Formules, LignesDevenuesNombres) {
     EXPECT_EQ(Valeur("LG1\xB2+LG2^2", 2), 109.0);
     ctx.etat.marques.decimale = ".";
     EXPECT_EQ(Substituer("LG3", 2), "1.5");
-    EXPECT_TRUE(temoin.dits.empty());
+    EXPECT_TRUE(temoin.messages.empty());
 }
 
 TEST_F(Formules, ReferenceSansObjetIllisible) {
@@ -95,15 +77,15 @@ TEST_F(Formules, SeriesALAnneeDeLaColonne) {
     seriesLues.clear();
     EXPECT_EQ(Substituer("LG(X-5!A-1)", 1), "100"); // the first year column reads year 0
     EXPECT_EQ(seriesLues.back().second, 0);
-    EXPECT_TRUE(temoin.dits.empty());
+    EXPECT_TRUE(temoin.messages.empty());
 }
 
 TEST_F(Formules, AnneePrecedenteDansUnTableauQuiCommenceALAnneeDebut) {
     tableau.modeAnnees = 1;
     EXPECT_EQ(Substituer("LG(X-5!A-1)", 0), "100");
     EXPECT_EQ(Substituer("LG(X-5!A-1)", 3), "103"); // the column's own year
-    ASSERT_EQ(temoin.dits.size(), 2u);              // at each column
-    EXPECT_EQ(temoin.dits[0].texte,
+    ASSERT_EQ(temoin.messages.size(), 2u);          // at each column
+    EXPECT_EQ(temoin.messages[0].texte,
               "Erreur de conception du modèle de tableau en cours d'interprétation :\r"
               "Une formule de calcul demande à ce que les valeurs d'une ligne débute à "
               "NumAnnee-1\rpour un tableau qui débute déjà à l'année début ! Modifier le modèle.");
@@ -111,24 +93,24 @@ TEST_F(Formules, AnneePrecedenteDansUnTableauQuiCommenceALAnneeDebut) {
 
 TEST_F(Formules, FautesDeReference) {
     EXPECT_EQ(Substituer("LG1+LG(VL-5", 2), "10+LG(VL-5");
-    ASSERT_EQ(temoin.dits.size(), 1u);
-    EXPECT_EQ(temoin.dits[0].texte, "La formule de calcul d'une ligne de total est erronée.");
-    EXPECT_EQ(temoin.dits[0].technique,
+    ASSERT_EQ(temoin.messages.size(), 1u);
+    EXPECT_EQ(temoin.messages[0].texte, "La formule de calcul d'une ligne de total est erronée.");
+    EXPECT_EQ(temoin.messages[0].technique,
               "Diagnostic : Il manque la parenthèse fermante après le code d'un LG.");
-    EXPECT_EQ(temoin.dits[0].titre, "Tableau incorrect dans le modèle de document.");
+    EXPECT_EQ(temoin.messages[0].titre, "Tableau incorrect dans le modèle de document.");
 
     EXPECT_EQ(Substituer("LG(VL5)*LG1", kColonneLibelles), "LG(VL5)*LG1");
-    EXPECT_EQ(temoin.dits[1].technique,
+    EXPECT_EQ(temoin.messages[1].technique,
               "Diagnostic : Concernant le code entre parenthèse d'un LG, il manque le tiret "
               "entre le nom du fichier et le numéro d'enregistrement.");
-    EXPECT_EQ(temoin.dits[1].titre, "Formule de total incorrecte.");
+    EXPECT_EQ(temoin.messages[1].titre, "Formule de total incorrecte.");
 
     for (const char* f : {"LG1+LG", "LG", "LG+1", "2*LG_+1"}) {
-        temoin.dits.clear();
+        temoin.messages.clear();
         EXPECT_EQ(Substituer(f, 2), "") << f;
-        ASSERT_EQ(temoin.dits.size(), 1u) << f;
-        EXPECT_EQ(temoin.dits[0].texte, "Formule erronée.");
-        EXPECT_EQ(temoin.dits[0].technique,
+        ASSERT_EQ(temoin.messages.size(), 1u) << f;
+        EXPECT_EQ(temoin.messages[0].texte, "Formule erronée.");
+        EXPECT_EQ(temoin.messages[0].technique,
                   "Il manque le code après un LG qui n'a pas de sens écrit tout seul");
     }
 }
@@ -151,19 +133,19 @@ TEST_F(Formules, FormuleEnClair) {
 
 TEST_F(Formules, HorsTableauLesLignesSontRefusees) {
     EXPECT_EQ(Substituer("LG1+LG(VL-5)", kColonneHorsTableau), "+<VL-5>");
-    ASSERT_EQ(temoin.dits.size(), 1u);
-    EXPECT_EQ(temoin.dits[0].texte, "Formule erronée. Insertion impossible.");
-    EXPECT_EQ(temoin.dits[0].technique,
+    ASSERT_EQ(temoin.messages.size(), 1u);
+    EXPECT_EQ(temoin.messages[0].texte, "Formule erronée. Insertion impossible.");
+    EXPECT_EQ(temoin.messages[0].technique,
               "Votre formule contient le code LGn qui désigne une ligne n de tableau. \r"
               "Vous ne pouvez utiliser ce type de code ici, utilisez la formulation "
               "LG<nomFic-numEnreg>\ren sélectionnant vos séries de données directement dans "
               "l'arbre de choix ci-contre.");
     // The L before and the G behind an emptied reference meet into a new LG.
-    temoin.dits.clear();
+    temoin.messages.clear();
     tableau.libelleSerie = [](const Texte&) { return Texte{}; };
     EXPECT_EQ(Substituer("LLG(VL-5)G", kColonneHorsTableau), "");
-    ASSERT_EQ(temoin.dits.size(), 1u);
-    EXPECT_EQ(temoin.dits[0].texte, "Formule erronée.");
+    ASSERT_EQ(temoin.messages.size(), 1u);
+    EXPECT_EQ(temoin.messages[0].texte, "Formule erronée.");
 }
 
 TEST_F(Formules, LongueFormuleSansRelecture) {
@@ -217,17 +199,17 @@ TEST(VerifierFormule, MessagesDeLEditeur) {
              {"LG1+*LG2", "Le calcul de la formule ne peut être lu"},
              {"FOO(LG1)", "Le calcul de la formule ne peut être lu"},
          }) {
-        temoin.dits.clear();
+        temoin.messages.clear();
         EXPECT_FALSE(VerifierFormule(ctx, c.formule, auDessus)) << c.formule;
-        ASSERT_EQ(temoin.dits.size(), 1u) << c.formule;
-        EXPECT_EQ(temoin.dits[0].texte.rfind(c.message, 0), 0u) << temoin.dits[0].texte;
-        EXPECT_EQ(temoin.dits[0].titre,
+        ASSERT_EQ(temoin.messages.size(), 1u) << c.formule;
+        EXPECT_EQ(temoin.messages[0].texte.rfind(c.message, 0), 0u) << temoin.messages[0].texte;
+        EXPECT_EQ(temoin.messages[0].titre,
                   Texte(c.formule)[0] == ' ' ? "Validation impossible." : "Formule erronée.");
     }
-    temoin.dits.clear();
+    temoin.messages.clear();
     EXPECT_TRUE(VerifierFormule(ctx, " lg1+lg(vl-5!a-1)*2 ", auDessus));
     EXPECT_TRUE(VerifierFormule(ctx, "SOMME(LG1;LG4)/(LG(OV-3)-1)^2", auDessus));
-    EXPECT_TRUE(temoin.dits.empty());
+    EXPECT_TRUE(temoin.messages.empty());
 }
 
 TEST(RenumeroterFormule, InsertionEtSuppression) {
@@ -238,8 +220,8 @@ TEST(RenumeroterFormule, InsertionEtSuppression) {
     Texte d = "totalC:LG1+LG3*LG(VL-3)/LG4:2:0";
     EXPECT_TRUE(RenumeroterFormule(ctx, d, 2, 9, SensRenumerotation::Plus, jusquA(8)));
     EXPECT_EQ(d, "totalC:LG1+LG4*LG(VL-3)/LG5:2:0");
-    ASSERT_EQ(temoin.dits.size(), 1u);
-    EXPECT_EQ(temoin.dits[0].texte,
+    ASSERT_EQ(temoin.messages.size(), 1u);
+    EXPECT_EQ(temoin.messages[0].texte,
               "Formule mise à jour : LG1+LG4*LG(VL-3)/LG5\rLa formule de total de la ligne n°9 a "
               "été mise à jour avec la nouvelle numérotation des lignes.");
 
@@ -247,29 +229,29 @@ TEST(RenumeroterFormule, InsertionEtSuppression) {
     EXPECT_TRUE(RenumeroterFormule(ctx, d, 2, 6, SensRenumerotation::Moins, jusquA(5)));
     EXPECT_EQ(d, "totalS:LG1+LG2:7:2");
 
-    temoin.dits.clear();
+    temoin.messages.clear();
     d = "totalC:LG1+LG3:2:0";
     EXPECT_TRUE(RenumeroterFormule(ctx, d, 3, 6, SensRenumerotation::Moins, jusquA(5)));
     EXPECT_EQ(d, "");
-    ASSERT_EQ(temoin.dits.size(), 1u);
-    EXPECT_EQ(temoin.dits[0].texte, "Formule invalide : LG1+LG3\rLa ligne supprimée était "
-                                    "totalisée dans la ligne n°6.\rLa formule de la ligne n°6 "
-                                    "est donc à ré-écrire !");
+    ASSERT_EQ(temoin.messages.size(), 1u);
+    EXPECT_EQ(temoin.messages[0].texte, "Formule invalide : LG1+LG3\rLa ligne supprimée était "
+                                        "totalisée dans la ligne n°6.\rLa formule de la ligne n°6 "
+                                        "est donc à ré-écrire !");
 
-    temoin.dits.clear();
+    temoin.messages.clear();
     d = "totalC:LG1+LG5:2:0";
     EXPECT_TRUE(RenumeroterFormule(ctx, d, 1, 6, SensRenumerotation::Plus, jusquA(5)));
     EXPECT_EQ(d, "");
-    EXPECT_EQ(temoin.dits.at(0).texte,
+    EXPECT_EQ(temoin.messages.at(0).texte,
               "Formule non valide : LG1+LG5\rLa formule de la ligne n°6 est à ré-écrire !");
 
-    temoin.dits.clear();
+    temoin.messages.clear();
     for (Texte autre : {"totalC:LG1+LG2:2:0", "serie:VL-LG3:2:0", "total"}) {
         const Texte avant = autre;
         EXPECT_FALSE(RenumeroterFormule(ctx, autre, 4, 6, SensRenumerotation::Plus, jusquA(9)));
         EXPECT_EQ(autre, avant);
     }
-    EXPECT_TRUE(temoin.dits.empty());
+    EXPECT_TRUE(temoin.messages.empty());
 }
 
 TEST(LignesReferencees, DansLOrdre) {

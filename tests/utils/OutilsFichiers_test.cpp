@@ -23,37 +23,38 @@ TEST(OutilsFichiers, LesNomsSeResolventSansEgardALaCasse) {
     test::DossierTemporaire d;
     d.Ecrire("DOSSIERS/Dupont/CULT3.DON", "abc");
     // A dossier written on Windows, asked with another case and the other separator.
-    const Texte demande = d.Texte_() + "dossiers\\DUPONT\\Cult3.don";
+    const Texte demande = d.Chemin() + "dossiers\\DUPONT\\Cult3.don";
     EXPECT_TRUE(FichierExiste(demande));
     EXPECT_EQ(TailleFichier(demande), 3);
     EXPECT_EQ(LireFichier(demande).value_or(""), "abc");
-    EXPECT_FALSE(FichierExiste(d.Texte_() + "dossiers\\DUPONT\\Cult4.don"));
-    EXPECT_EQ(TailleFichier(d.Texte_() + "absent/x"), 0);
+    EXPECT_FALSE(FichierExiste(d.Chemin() + "dossiers\\DUPONT\\Cult4.don"));
+    EXPECT_EQ(TailleFichier(d.Chemin() + "absent/x"), 0);
     // A folder is a file only when the folder bit is asked.
-    EXPECT_FALSE(FichierExiste(d.Texte_() + "dossiers"));
-    EXPECT_TRUE(FichierExiste(d.Texte_() + "dossiers", kAttributDossier));
-    EXPECT_TRUE(DossierExiste(d.Texte_() + "Dossiers\\dupont\\"));
+    EXPECT_FALSE(FichierExiste(d.Chemin() + "dossiers"));
+    EXPECT_TRUE(FichierExiste(d.Chemin() + "dossiers", kAttributDossier));
+    EXPECT_TRUE(DossierExiste(d.Chemin() + "Dossiers\\dupont\\"));
     EXPECT_FALSE(FichierExiste(""));
 }
 
 TEST(OutilsFichiers, UnNomAccentueSurLeDisqueEstEnUtf8) {
     test::DossierTemporaire d;
     d.Ecrire(Cp1252VersUtf8("Modèles/Été.rtf"), "x"); // names on the disk are UTF-8
-    EXPECT_TRUE(FichierExiste(d.Texte_() + "modèles/ÉTÉ.RTF"));
-    EXPECT_EQ(CheminTexte(CheminSysteme(d.Texte_() + "modèles/été.rtf")),
-              d.Texte_() + "Modèles/Été.rtf");
+    EXPECT_TRUE(FichierExiste(d.Chemin() + "modèles/ÉTÉ.RTF"));
+    EXPECT_EQ(CheminTexte(CheminSysteme(d.Chemin() + "modèles/été.rtf")),
+              d.Chemin() + "Modèles/Été.rtf");
 }
 
 TEST(OutilsFichiers, CreerCheminEtSupprimer) {
     test::DossierTemporaire d;
-    CreerChemin(d.Texte_() + "a\\b/c\\fichier.txt");
-    EXPECT_TRUE(DossierExiste(d.Texte_() + "a/b/c"));
-    EXPECT_FALSE(FichierExiste(d.Texte_() + "a/b/c/fichier.txt"));
+    CreerChemin(d.Chemin() + "a\\b/c\\fichier.txt");
+    EXPECT_TRUE(DossierExiste(d.Chemin() + "a/b/c"));
+    EXPECT_FALSE(FichierExiste(d.Chemin() + "a/b/c/fichier.txt"));
     d.Ecrire("a/lecture-seule", "x");
-    std::filesystem::permissions(d.Chemin() / "a/lecture-seule", std::filesystem::perms::owner_read);
-    SupprimerFichier(d.Texte_() + "A/LECTURE-SEULE");
-    EXPECT_FALSE(FichierExiste(d.Texte_() + "a/lecture-seule"));
-    SupprimerFichier(d.Texte_() + "absent"); // errors ignored
+    std::filesystem::permissions(d.Systeme() / "a/lecture-seule",
+                                 std::filesystem::perms::owner_read);
+    SupprimerFichier(d.Chemin() + "A/LECTURE-SEULE");
+    EXPECT_FALSE(FichierExiste(d.Chemin() + "a/lecture-seule"));
+    SupprimerFichier(d.Chemin() + "absent"); // errors ignored
 }
 
 TEST(OutilsFichiers, LireOctetsAuBoutDuFichier) {
@@ -74,7 +75,8 @@ TEST(EcritureSure, UnFichierNonValideNeRemplaceRien) {
     } // destroyed without Valider: as if the program had died while writing
     EXPECT_EQ(d.Lire("doc.rtf"), "ancien");
     std::size_t fichiers = 0;
-    for ([[maybe_unused]] const auto& e : std::filesystem::directory_iterator(d.Chemin())) ++fichiers;
+    for ([[maybe_unused]] const auto& e : std::filesystem::directory_iterator(d.Systeme()))
+        ++fichiers;
     EXPECT_EQ(fichiers, 1u); // no temporary left behind
 
     EXPECT_TRUE(EcrireFichierSur(d / "doc.rtf", "nouveau"));

@@ -1,0 +1,83 @@
+#include "shell/console/ConsoleUtilisateur.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdio>
+
+namespace verdane {
+namespace {
+
+// A console over temporary files in place of the terminal.
+struct Console {
+    explicit Console(const char* saisie, bool terminal) {
+        entree = std::tmpfile();
+        erreur = std::tmpfile();
+        std::fputs(saisie, entree);
+        std::rewind(entree);
+        port = std::make_unique<ConsoleUtilisateur>(entree, terminal, erreur, false);
+    }
+    ~Console() {
+        std::fclose(entree);
+        std::fclose(erreur);
+    }
+    std::string Ecrit() const {
+        std::rewind(erreur);
+        std::string s;
+        for (int c; (c = std::fgetc(erreur)) != EOF;) s += static_cast<char>(c);
+        return s;
+    }
+    std::FILE* entree;
+    std::FILE* erreur;
+    std::unique_ptr<ConsoleUtilisateur> port;
+};
+
+} // namespace
+
+TEST(ConsoleUtilisateur, SansTerminalLaQuestionPrendSaReponseParDefautEtLeDit) {
+    Console c("oui\n", false); // something waits on stdin, but it isn't a terminal
+    EXPECT_EQ(
+        c.port->Question("Remplacer ?", "Titre", Boutons::OuiNon, Reponse::Non, Icone::Question),
+        Reponse::Non);
+    EXPECT_NE(c.Ecrit().find("-> Non (réponse par défaut : aucun terminal pour répondre)"),
+              std::string::npos);
+}
+
+TEST(ConsoleUtilisateur, AuTerminalLaReponseEstLue) {
+    Console oui("o\n", true);
+    EXPECT_EQ(oui.port->Question("?", "", Boutons::OuiNon, Reponse::Non, Icone::Question),
+              Reponse::Oui);
+    Console relance("peut-etre\nnon\n", true); // asked again until it is an answer
+    EXPECT_EQ(relance.port->Question("?", "", Boutons::OuiNon, Reponse::Oui, Icone::Question),
+              Reponse::Non);
+    Console fin("", true); // end of input: the default
+    EXPECT_EQ(
+        fin.port->Question("?", "", Boutons::OuiNonAnnuler, Reponse::Annuler, Icone::Question),
+        Reponse::Annuler);
+    Console vide("\n", true);
+    EXPECT_EQ(vide.port->Question("?", "", Boutons::OkAnnuler, Reponse::Ok, Icone::Question),
+              Reponse::Ok);
+}
+
+TEST(ConsoleUtilisateur, UneReponseImposeeValaitPourToutes) {
+    Console c("", false);
+    c.port->ImposerReponse(Reponse::Oui);
+    EXPECT_EQ(c.port->Question("?", "", Boutons::OuiNon, Reponse::Non, Icone::Question),
+              Reponse::Oui);
+    EXPECT_EQ(c.port->Question("?", "", Boutons::OkAnnuler, Reponse::Annuler, Icone::Question),
+              Reponse::Ok);
+    c.port->ImposerReponse(Reponse::Non);
+    EXPECT_EQ(c.port->Question("?", "", Boutons::OkAnnuler, Reponse::Ok, Icone::Question),
+              Reponse::Annuler);
+}
+
+TEST(ConsoleUtilisateur, LesMessagesSortentEnUtf8) {
+    Console c("", false);
+    c.port->AfficherMessage({"Création terminée !", "Détail\r\nsuite", "Titre é", ""});
+    EXPECT_EQ(c.Ecrit(), "[Titre \xC3\xA9]\nCr\xC3\xA9"
+                         "ation termin\xC3\xA9"
+                         "e !\nD\xC3\xA9tail\nsuite\n");
+    c.port->PoserJauge(1485, "50 %"); // no terminal: no gauge
+    EXPECT_EQ(c.Ecrit().find("50 %"), std::string::npos);
+}
+
+} // namespace verdane

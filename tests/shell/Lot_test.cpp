@@ -1,0 +1,128 @@
+#include "shell/Lot.h"
+#include "support/FauxUtilisateur.h"
+#include "support/InstallationTemporaire.h"
+
+#include <gtest/gtest.h>
+
+namespace verdane {
+namespace {
+
+LectureOptionsLot Lire(std::vector<Texte> args) {
+    return LireOptionsLot(args);
+}
+
+class Lot : public ::testing::Test, protected test::InstallationTemporaire {
+protected:
+    Lot() : enregistre(u), ctx(enregistre) {}
+
+    BilanLot Executer(OptionsLot o) { return ExecuterLot(ctx, o, env); }
+    OptionsLot Options(const Texte& resultat) {
+        OptionsLot o;
+        o.dossier = Dossier("DUPONT");
+        o.modele = d / "a b/m.vdm";
+        o.resultat = resultat;
+        return o;
+    }
+
+    test::FauxUtilisateur u;
+    UtilisateurEnregistre enregistre;
+    Contexte ctx;
+};
+
+} // namespace
+
+TEST(OptionsLot, LectureEtErreursDUsage) {
+    const auto bon =
+        Lire({"--dossier", "D", "--modele", "M", "--resultat", "R", "--remplacer", "--compare",
+              "C1", "--compare", "C2", "--reponse", "NON", "--rapport", "r.json"});
+    ASSERT_TRUE(bon.options);
+    EXPECT_EQ(bon.options->compares, (std::vector<Texte>{"C1", "C2"}));
+    EXPECT_EQ(bon.options->reponse, Reponse::Non);
+    EXPECT_TRUE(bon.options->remplacer);
+    EXPECT_EQ(bon.options->rapport, "r.json");
+
+    EXPECT_TRUE(Lire({"--help"}).options->aide);
+    EXPECT_EQ(Lire({"--modele", "M", "--resultat", "R"}).erreur, "il manque --dossier");
+    EXPECT_EQ(Lire({"--dossier"}).erreur, "--dossier demande un répertoire");
+    EXPECT_EQ(Lire({"--dossier", "D", "--modele", "M", "--resultat", "R", "--reponse", "peut-être"})
+                  .erreur,
+              "--reponse demande oui ou non, pas peut-être");
+    EXPECT_EQ(Lire({"-x"}).erreur, "option inconnue : -x");
+    std::vector<Texte> dix = {"--dossier", "D", "--modele", "M", "--resultat", "R"};
+    for (int i = 0; i < 10; ++i) dix.insert(dix.end(), {"--compare", "C"});
+    EXPECT_FALSE(Lire(dix).options);
+}
+
+TEST_F(Lot, CreeLeDocumentDuDossierNomme) {
+    const auto bilan = Executer(Options(d / "r.rtf"));
+    EXPECT_EQ(bilan.statut, kSortieFaite);
+    EXPECT_EQ(bilan.codesTrouves, 1);
+    EXPECT_EQ(bilan.codesTraites, 1);
+    EXPECT_EQ(ctx.etat.NomDossier[0], "DUPONT");
+    EXPECT_TRUE(d.Lire("r.rtf").starts_with("{\\rtf1 Bonjour "));
+}
+
+TEST_F(Lot, LesDonneesManquantesSontDesErreursDUsage) {
+    OptionsLot o = Options(d / "r.rtf");
+    o.dossier = Dossier("PERSONNE");
+    EXPECT_EQ(Executer(o).statut, kSortieUsage);
+    EXPECT_TRUE(u.ADit("Dossier Marlo introuvable : le dossier " + Dossier("PERSONNE")));
+
+    d.Ecrire("Marlo/Dossiers/COURT/COURT", "trop court");
+    o.dossier = Dossier("COURT");
+    EXPECT_EQ(Executer(o).statut, kSortieUsage);
+    EXPECT_TRUE(u.ADit("est tronqué"));
+
+    o = Options(d / "r.rtf");
+    o.compares = {Dossier("DUPONT"), Dossier("AUTRE")};
+    EXPECT_EQ(Executer(o).statut, kSortieUsage);
+
+    o = Options(d / "r.rtf");
+    o.modele = d / "absent.vdm";
+    EXPECT_EQ(Executer(o).statut, kSortieUsage);
+    EXPECT_FALSE(std::filesystem::exists(d.Systeme() / "r.rtf"));
+}
+
+TEST_F(Lot, UnResultatExistantNEstRemplaceQueSurDemande) {
+    d.Ecrire("r.rtf", "ancien");
+    OptionsLot o = Options(d / "r.rtf");
+    EXPECT_EQ(Executer(o).statut, kSortieUsage);
+    EXPECT_EQ(d.Lire("r.rtf"), "ancien");
+    o.remplacer = true;
+    EXPECT_EQ(Executer(o).statut, kSortieFaite);
+    EXPECT_NE(d.Lire("r.rtf"), "ancien");
+}
+
+TEST_F(Lot, UnResultatImpossibleAEcrireDonne1) {
+    EXPECT_EQ(Executer(Options(d / "nulle/part/r.rtf")).statut, kSortieEchec);
+}
+
+TEST_F(Lot, LesDossiersComparesPrennentLesPlaces1Et2) {
+    OptionsLot o = Options(d / "r.rtf");
+    o.compares = {AjouterDossier("MARTIN"), AjouterDossier("DURAND")};
+    EXPECT_EQ(Executer(o).statut, kSortieFaite);
+    EXPECT_EQ(ctx.etat.NomDossier[1], "MARTIN");
+    EXPECT_EQ(ctx.etat.NomDossier[2], "DURAND");
+    EXPECT_EQ(ctx.etat.nbDossiersImposes, 2);
+}
+
+TEST_F(Lot, LeRapportDitTout) {
+    d.Ecrire("sans-fin.vdm", "#mrl(jamais fermee");
+    OptionsLot o = Options(d / "r.rtf");
+    o.modele = d / "sans-fin.vdm";
+    const auto bilan = Executer(o);
+    enregistre.Question("Vraiment ?", "Titre", Boutons::OuiNon, Reponse::Non, Icone::Question);
+    const std::string json = RapportJson(o, bilan, enregistre.Evenements());
+    EXPECT_NE(json.find("\"statut\":0"), std::string::npos);
+    EXPECT_NE(json.find("\"codesTrouves\":1,\"codesTraites\":0"), std::string::npos);
+    // Texts come out in UTF-8, escaped as JSON wants.
+    EXPECT_NE(json.find("{\"rang\":1,\"titre\":\"Le mod\xC3\xA8le de document comporte une "
+                        "erreur !\""),
+              std::string::npos);
+    EXPECT_NE(json.find("\\r\\nModifier le mod\xC3\xA8le"), std::string::npos);
+    EXPECT_NE(json.find("\"questions\":[{\"rang\":2,\"titre\":\"Titre\",\"texte\":\"Vraiment "
+                        "?\",\"reponse\":\"non\"}]"),
+              std::string::npos);
+}
+
+} // namespace verdane
