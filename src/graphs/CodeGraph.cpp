@@ -1,0 +1,223 @@
+#include "graphs/CodeGraph.h"
+
+#include "graphs/NombresCode.h"
+#include "utils/Chaines.h"
+
+#include <optional>
+#include <string>
+
+namespace verdane {
+
+namespace {
+
+constexpr int kChampsEntete = 45;
+constexpr int kChampsSerie = 9;
+constexpr const char* kTitreErreur = "Code d'un graphique erroné dans le modèle VDM";
+
+// One description of the fields serves the writer and the reader. Field 4, the number of
+// series, has its own rule.
+template <typename V> void ChampsEntete(ModeleGraph& g, V& v) {
+    v.Chaine(g.titre, kLargeurTitreGraph);
+    v.Entier(g.typeGraph);
+    v.Entier(g.legende);
+    v.Compte(g.nbSeries);
+    v.Entier(g.empile);
+    v.Chaine(g.commentaire, kLargeurCommentaire);
+    v.Entier(g.inversion);
+    v.Entier(g.espaceBarres);
+    v.Entier(g.espaceAnnees);
+    v.Entier(g.espaceSeries);
+    for (RectGraph* r : {&g.rectTitre, &g.rectPlot, &g.rectLegende, &g.rectNote}) {
+        v.Reel(r->minX);
+        v.Reel(r->maxX);
+        v.Reel(r->minY);
+        v.Reel(r->maxY);
+    }
+    v.Reel(g.rotation);
+    v.Reel(g.elevation);
+    v.Entier(g.retourTitre);
+    v.Entier(g.orientTitre);
+    v.Entier(g.retourLegende);
+    v.Entier(g.orientNote);
+    for (auto& a : g.axes) {
+        v.Chaine(a.titreAxe, kLargeurTitreAxe);
+        v.Entier(a.tailleAxe);
+        v.Entier(a.epaisseurAxe);
+    }
+    v.Entier(g.tailleTitre);
+}
+
+// The nine fields of a series closed by ";"; the brush follows as one digit.
+template <typename V> void ChampsSerie(SerieGraph& s, V& v) {
+    v.Chaine(s.codeSerie, kLargeurCodeSerie);
+    v.Chaine(s.nomSerie, kLargeurNomSerie);
+    v.Entier(s.typeSerie);
+    v.Chaine(s.fichierSerie, kLargeurFichierSerie);
+    v.Entier(s.axeY2);
+    v.Entier(s.rouge);
+    v.Entier(s.vert);
+    v.Entier(s.bleu);
+    v.Entier(s.epaisseur);
+}
+
+struct Ecriture {
+    std::string_view decimale;
+    Texte sortie;
+
+    void Champ(std::string_view t) {
+        sortie += t;
+        sortie += ';';
+    }
+    void Chaine(Texte& champ, std::size_t largeur) {
+        champ = ChampFixe(Rogner(champ), largeur);
+        Champ(Rogner(champ));
+    }
+    void Entier(std::int16_t& v) { Champ(std::to_string(v)); }
+    // The text carries no more series than a record holds.
+    void Compte(std::int16_t& v) {
+        std::int16_t n = v;
+        if (n < 0) n = 0;
+        if (n > kMaxSeriesGraph) n = kMaxSeriesGraph;
+        Entier(n);
+    }
+    void Reel(float& v) { Champ(TexteReel(v, decimale)); }
+};
+
+// What went wrong first in a code, told once the reading is over.
+struct Probleme {
+    Texte technique;
+};
+
+struct Lecture {
+    std::string_view reste;
+    int maximum = 0;
+    int lus = 0;
+    int serie = 0; // 0: the header
+    std::optional<Probleme>* probleme = nullptr;
+
+    std::optional<std::string_view> Suivant() {
+        if (lus >= maximum) return std::nullopt;
+        const auto p = reste.find(';');
+        if (p == std::string_view::npos) return std::nullopt;
+        const auto champ = reste.substr(0, p);
+        reste.remove_prefix(p + 1);
+        ++lus;
+        return champ;
+    }
+    void Noter(Texte technique) {
+        if (!probleme->has_value()) *probleme = Probleme{std::move(technique)};
+    }
+    void ValeurRefusee(std::string_view valeur, int champ) {
+        Texte t = "Description technique de l'erreur : La valeur \"" + Texte(valeur) +
+                  "\" du champ n°" + std::to_string(champ);
+        if (serie > 0) t += " de la série de données n°" + std::to_string(serie);
+        Noter(t + " n'est pas un nombre admis pour ce champ : elle a été ignorée.");
+    }
+
+    void Chaine(Texte& champ, std::size_t largeur) {
+        if (const auto f = Suivant()) champ = ChampFixe(*f, largeur);
+    }
+    void Entier(std::int16_t& v) {
+        const auto f = Suivant();
+        if (!f) return;
+        if (const auto n = LireEntierCode(*f))
+            v = *n;
+        else
+            ValeurRefusee(*f, lus);
+    }
+    void Compte(std::int16_t& v) {
+        const auto f = Suivant();
+        if (!f) return;
+        const auto n = LireEntierCode(*f);
+        if (!n) return ValeurRefusee(*f, lus);
+        v = *n;
+        if (v >= 0 && v <= kMaxSeriesGraph) return;
+        v = v < 0 ? 0 : kMaxSeriesGraph;
+        Noter("Description technique de l'erreur : Le nombre de séries de données \"" + Texte(*f) +
+              "\" n'est pas compris entre 0 et 10 : il a été ramené à " + std::to_string(v) + ".");
+    }
+    void Reel(float& v) {
+        const auto f = Suivant();
+        if (!f) return;
+        if (const auto n = LireReelCode(*f))
+            v = *n;
+        else
+            ValeurRefusee(*f, lus);
+    }
+};
+
+void Signaler(Contexte& ctx, const ModeleGraph& g, const Texte& technique) {
+    ctx.utilisateur.AfficherMessage({"Le code du graphique \"" + Rogner(g.titre) +
+                                         "\" comporte des erreurs" +
+                                         " dans le modèle de document en cours d'analyse.",
+                                     technique, kTitreErreur, ""});
+}
+
+} // namespace
+
+Texte TexteCodeGraph(ModeleGraph& g, std::string_view decimale) {
+    Ecriture e{decimale, {}};
+    ChampsEntete(g, e);
+    for (int i = 0; i < NbSeriesUtiles(g); ++i) {
+        auto& s = g.series[static_cast<std::size_t>(i)];
+        e.sortie += '[';
+        ChampsSerie(s, e);
+        // One digit: a brush the code can't carry stays one that draws nothing new.
+        e.sortie += (s.brosse >= 0 && s.brosse <= 9) ? static_cast<char>('0' + s.brosse) : '9';
+        e.sortie += ']';
+    }
+    return e.sortie;
+}
+
+Texte EcrireCodeGraph(Contexte& ctx) {
+    auto& eg = ctx.etat.graphes;
+    if (eg.grapheCourant < 1 || eg.grapheCourant > kMaxGraphes) return {};
+    auto& g = eg.graphes[static_cast<std::size_t>(eg.grapheCourant)];
+    return "gph(" + TexteCodeGraph(g, ctx.etat.marques.decimale) + ")";
+}
+
+void LireCodeGraph(Contexte& ctx, int index, std::string_view code) {
+    if (index < 1 || index > kMaxGraphes) return;
+    ModeleGraph& g = ctx.etat.graphes.graphes[static_cast<std::size_t>(index)];
+    std::optional<Probleme> probleme;
+
+    Lecture l{code, kChampsEntete, 0, 0, &probleme};
+    ChampsEntete(g, l);
+    if (l.lus < kChampsEntete)
+        l.Noter("Description technique de l'erreur : Le code ne comporte que " +
+                std::to_string(l.lus) + " champ(s) sur les 45 attendus avant les séries de" +
+                " données." + "\r\n" + "Les champs manquants ont gardé leur valeur précédente.");
+
+    int sansCrochet = 0;
+    for (int i = 1; i <= NbSeriesUtiles(g); ++i) {
+        if (l.reste.empty() || l.reste.front() != '[') {
+            sansCrochet = i;
+            break;
+        }
+        l.reste.remove_prefix(1);
+        l.maximum = kChampsSerie;
+        l.lus = 0;
+        l.serie = i;
+        SerieGraph& s = g.series[static_cast<std::size_t>(i - 1)];
+        ChampsSerie(s, l);
+        // The brush is the one character that remains first; it goes with the "]" behind it.
+        const auto brosse = l.reste.substr(0, 1);
+        if (const auto n = LireEntierCode(brosse))
+            s.brosse = *n;
+        else
+            l.ValeurRefusee(brosse, kChampsSerie + 1);
+        l.reste.remove_prefix(std::min<std::size_t>(2, l.reste.size()));
+    }
+
+    if (probleme) Signaler(ctx, g, probleme->technique);
+    if (sansCrochet > 0)
+        Signaler(ctx, g,
+                 Texte("Description technique de l'erreur :") +
+                     " Le crochet \"[\", annonçant une série de données pour le graphique," +
+                     " n'apparaît pas à" + " l'endroit demandé." + "\r\n" +
+                     "La série de données n°" + std::to_string(sansCrochet) +
+                     " (et suivante(s) s'il y en a) n'a (n'ont) donc pas été correctement" +
+                     " récupérée(s).");
+}
+
+} // namespace verdane
