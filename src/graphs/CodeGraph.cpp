@@ -1,8 +1,10 @@
 #include "graphs/CodeGraph.h"
 
+#include "graphs/ChampsGraph.h"
 #include "graphs/NombresCode.h"
 #include "utils/Chaines.h"
 
+#include <algorithm>
 #include <optional>
 #include <string>
 
@@ -14,52 +16,7 @@ constexpr int kChampsEntete = 45;
 constexpr int kChampsSerie = 9;
 constexpr const char* kTitreErreur = "Code d'un graphique erroné dans le modèle VDM";
 
-// One description of the fields serves the writer and the reader. Field 4, the number of
-// series, has its own rule.
-template <typename V> void ChampsEntete(ModeleGraph& g, V& v) {
-    v.Chaine(g.titre, kLargeurTitreGraph);
-    v.Entier(g.typeGraph);
-    v.Entier(g.legende);
-    v.Compte(g.nbSeries);
-    v.Entier(g.empile);
-    v.Chaine(g.commentaire, kLargeurCommentaire);
-    v.Entier(g.inversion);
-    v.Entier(g.espaceBarres);
-    v.Entier(g.espaceAnnees);
-    v.Entier(g.espaceSeries);
-    for (RectGraph* r : {&g.rectTitre, &g.rectPlot, &g.rectLegende, &g.rectNote}) {
-        v.Reel(r->minX);
-        v.Reel(r->maxX);
-        v.Reel(r->minY);
-        v.Reel(r->maxY);
-    }
-    v.Reel(g.rotation);
-    v.Reel(g.elevation);
-    v.Entier(g.retourTitre);
-    v.Entier(g.orientTitre);
-    v.Entier(g.retourLegende);
-    v.Entier(g.orientNote);
-    for (auto& a : g.axes) {
-        v.Chaine(a.titreAxe, kLargeurTitreAxe);
-        v.Entier(a.tailleAxe);
-        v.Entier(a.epaisseurAxe);
-    }
-    v.Entier(g.tailleTitre);
-}
-
-// The nine fields of a series closed by ";"; the brush follows as one digit.
-template <typename V> void ChampsSerie(SerieGraph& s, V& v) {
-    v.Chaine(s.codeSerie, kLargeurCodeSerie);
-    v.Chaine(s.nomSerie, kLargeurNomSerie);
-    v.Entier(s.typeSerie);
-    v.Chaine(s.fichierSerie, kLargeurFichierSerie);
-    v.Entier(s.axeY2);
-    v.Entier(s.rouge);
-    v.Entier(s.vert);
-    v.Entier(s.bleu);
-    v.Entier(s.epaisseur);
-}
-
+// The text: a field closed by ";" for each field the text carries.
 struct Ecriture {
     std::string_view decimale;
     Texte sortie;
@@ -81,6 +38,15 @@ struct Ecriture {
         Entier(n);
     }
     void Reel(float& v) { Champ(TexteReel(v, decimale)); }
+    // One digit and the "]" that closes the series: a brush the digit can't carry becomes one
+    // that draws nothing new either.
+    void Brosse(std::int16_t& v) {
+        sortie += (v >= 0 && v <= 9) ? static_cast<char>('0' + v) : '9';
+        sortie += ']';
+    }
+    void Series(std::array<SerieGraph, kMaxSeriesGraph>&) {}
+    void Reserve(std::int16_t&) {}
+    void Reserve(Texte&, std::size_t) {}
 };
 
 // What went wrong first in a code, told once the reading is over.
@@ -144,6 +110,18 @@ struct Lecture {
         else
             ValeurRefusee(*f, lus);
     }
+    // The one character that remains first; it goes with the "]" behind it.
+    void Brosse(std::int16_t& v) {
+        const auto brosse = reste.substr(0, 1);
+        if (const auto n = LireEntierCode(brosse))
+            v = *n;
+        else
+            ValeurRefusee(brosse, lus + 1);
+        reste.remove_prefix(std::min<std::size_t>(2, reste.size()));
+    }
+    void Series(std::array<SerieGraph, kMaxSeriesGraph>&) {}
+    void Reserve(std::int16_t&) {}
+    void Reserve(Texte&, std::size_t) {}
 };
 
 void Signaler(Contexte& ctx, const ModeleGraph& g, const Texte& technique) {
@@ -157,14 +135,10 @@ void Signaler(Contexte& ctx, const ModeleGraph& g, const Texte& technique) {
 
 Texte TexteCodeGraph(ModeleGraph& g, std::string_view decimale) {
     Ecriture e{decimale, {}};
-    ChampsEntete(g, e);
+    ParcourirGraphe(e, g);
     for (int i = 0; i < NbSeriesUtiles(g); ++i) {
-        auto& s = g.series[static_cast<std::size_t>(i)];
         e.sortie += '[';
-        ChampsSerie(s, e);
-        // One digit: a brush the code can't carry stays one that draws nothing new.
-        e.sortie += (s.brosse >= 0 && s.brosse <= 9) ? static_cast<char>('0' + s.brosse) : '9';
-        e.sortie += ']';
+        ParcourirSerie(e, g.series[static_cast<std::size_t>(i)]);
     }
     return e.sortie;
 }
@@ -182,7 +156,7 @@ void LireCodeGraph(Contexte& ctx, int index, std::string_view code) {
     std::optional<Probleme> probleme;
 
     Lecture l{code, kChampsEntete, 0, 0, &probleme};
-    ChampsEntete(g, l);
+    ParcourirGraphe(l, g);
     if (l.lus < kChampsEntete)
         l.Noter("Description technique de l'erreur : Le code ne comporte que " +
                 std::to_string(l.lus) + " champ(s) sur les 45 attendus avant les séries de" +
@@ -198,15 +172,7 @@ void LireCodeGraph(Contexte& ctx, int index, std::string_view code) {
         l.maximum = kChampsSerie;
         l.lus = 0;
         l.serie = i;
-        SerieGraph& s = g.series[static_cast<std::size_t>(i - 1)];
-        ChampsSerie(s, l);
-        // The brush is the one character that remains first; it goes with the "]" behind it.
-        const auto brosse = l.reste.substr(0, 1);
-        if (const auto n = LireEntierCode(brosse))
-            s.brosse = *n;
-        else
-            l.ValeurRefusee(brosse, kChampsSerie + 1);
-        l.reste.remove_prefix(std::min<std::size_t>(2, l.reste.size()));
+        ParcourirSerie(l, g.series[static_cast<std::size_t>(i - 1)]);
     }
 
     if (probleme) Signaler(ctx, g, probleme->technique);

@@ -1,5 +1,6 @@
 #include "graphs/ModeleGraph.h"
 
+#include "graphs/ChampsGraph.h"
 #include "utils/Binaire.h"
 
 #include <algorithm>
@@ -30,76 +31,32 @@ int NbSeriesUtiles(const ModeleGraph& g) {
 
 namespace {
 
-// One description of the layout serves the reader and the writer.
-template <typename Flux, typename Rect> void ParcourirRect(Flux& f, Rect& r) {
-    f.F32(r.minX);
-    f.F32(r.maxX);
-    f.F32(r.minY);
-    f.F32(r.maxY);
-}
-
-template <typename Flux, typename Serie> void ParcourirSerie(Flux& f, Serie& s) {
-    f.Chaine(s.codeSerie, kLargeurCodeSerie);
-    f.Chaine(s.nomSerie, kLargeurNomSerie);
-    f.I16(s.typeSerie);
-    f.Chaine(s.fichierSerie, kLargeurFichierSerie);
-    f.I16(s.axeY2);
-    f.I16(s.rouge);
-    f.I16(s.vert);
-    f.I16(s.bleu);
-    f.I16(s.epaisseur);
-    f.I16(s.brosse);
-    f.Chaine(s.reserveTexte, 10);
-    f.Chaine(s.reserveOctets, 6);
-}
-
-template <typename Flux, typename Enr> void Parcourir(Flux& f, Enr& g) {
-    f.I16(g.reserve0);
-    f.Chaine(g.titre, kLargeurTitreGraph);
-    f.I16(g.typeGraph);
-    f.I16(g.legende);
-    f.I16(g.nbSeries);
-    f.I16(g.empile);
-    f.Chaine(g.commentaire, kLargeurCommentaire);
-    for (auto& s : g.series) ParcourirSerie(f, s);
-    f.I16(g.inversion);
-    f.I16(g.espaceBarres);
-    f.I16(g.espaceAnnees);
-    f.I16(g.espaceSeries);
-    ParcourirRect(f, g.rectTitre);
-    ParcourirRect(f, g.rectPlot);
-    ParcourirRect(f, g.rectLegende);
-    ParcourirRect(f, g.rectNote);
-    f.F32(g.rotation);
-    f.F32(g.elevation);
-    f.I16(g.retourTitre);
-    f.I16(g.orientTitre);
-    f.I16(g.reserve1014);
-    f.I16(g.retourLegende);
-    f.I16(g.orientNote);
-    f.I16(g.reserve1020);
-    for (auto& a : g.axes) {
-        f.Chaine(a.titreAxe, kLargeurTitreAxe);
-        f.I16(a.tailleAxe);
-        f.I16(a.epaisseurAxe);
-    }
-    f.I16(g.tailleTitre);
-    f.Chaine(g.reserveTexte, 18);
-    f.Chaine(g.reserveOctets, 6);
-}
-
 struct Lecture {
     LecteurBinaire l;
     void Chaine(Texte& t, std::size_t n) { t = l.Chaine(n); }
-    void I16(std::int16_t& v) { v = l.I16(); }
-    void F32(float& v) { v = l.F32(); }
+    void Entier(std::int16_t& v) { v = l.I16(); }
+    void Reel(float& v) { v = l.F32(); }
+    void Compte(std::int16_t& v) { Entier(v); }
+    void Brosse(std::int16_t& v) { Entier(v); }
+    void Reserve(std::int16_t& v) { Entier(v); }
+    void Reserve(Texte& t, std::size_t n) { Chaine(t, n); }
+    void Series(std::array<SerieGraph, kMaxSeriesGraph>& series) {
+        for (auto& s : series) ParcourirSerie(*this, s);
+    }
 };
 
 struct Ecriture {
     EcrivainBinaire e;
     void Chaine(const Texte& t, std::size_t n) { e.Chaine(t, n); }
-    void I16(std::int16_t v) { e.I16(v); }
-    void F32(float v) { e.F32(v); }
+    void Entier(std::int16_t v) { e.I16(v); }
+    void Reel(float v) { e.F32(v); }
+    void Compte(std::int16_t v) { Entier(v); }
+    void Brosse(std::int16_t v) { Entier(v); }
+    void Reserve(std::int16_t v) { Entier(v); }
+    void Reserve(const Texte& t, std::size_t n) { Chaine(t, n); }
+    void Series(const std::array<SerieGraph, kMaxSeriesGraph>& series) {
+        for (const auto& s : series) ParcourirSerie(*this, s);
+    }
 };
 
 } // namespace
@@ -107,13 +64,13 @@ struct Ecriture {
 ModeleGraph LireEnrGraph(std::string_view octets) {
     ModeleGraph g;
     Lecture lecture{LecteurBinaire(octets)};
-    Parcourir(lecture, g);
+    ParcourirGraphe(lecture, g);
     return g;
 }
 
 std::string EcrireEnrGraph(const ModeleGraph& g) {
     Ecriture ecriture;
-    Parcourir(ecriture, g);
+    ParcourirGraphe(ecriture, g);
     return ecriture.e.Octets();
 }
 
