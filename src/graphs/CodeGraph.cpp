@@ -83,40 +83,33 @@ struct Lecture {
     void Chaine(Texte& champ, std::size_t largeur) {
         if (const auto f = Suivant()) champ = ChampFixe(*f, largeur);
     }
-    void Entier(std::int16_t& v) {
-        const auto f = Suivant();
-        if (!f) return;
-        if (const auto n = LireEntierCode(*f))
+    // A number of the text into `v`; false when it isn't one, `v` then keeping its value.
+    template <typename T>
+    bool Nombre(std::string_view texte, T& v, std::optional<T> (*lire)(std::string_view)) {
+        const auto n = lire(texte);
+        if (n)
             v = *n;
         else
-            ValeurRefusee(*f, lus);
+            ValeurRefusee(texte, lus);
+        return n.has_value();
+    }
+    void Entier(std::int16_t& v) {
+        if (const auto f = Suivant()) Nombre(*f, v, LireEntierCode);
+    }
+    void Reel(float& v) {
+        if (const auto f = Suivant()) Nombre(*f, v, LireReelCode);
     }
     void Compte(std::int16_t& v) {
         const auto f = Suivant();
-        if (!f) return;
-        const auto n = LireEntierCode(*f);
-        if (!n) return ValeurRefusee(*f, lus);
-        v = *n;
-        if (v >= 0 && v <= kMaxSeriesGraph) return;
+        if (!f || !Nombre(*f, v, LireEntierCode) || (v >= 0 && v <= kMaxSeriesGraph)) return;
         v = v < 0 ? 0 : kMaxSeriesGraph;
         Noter("Description technique de l'erreur : Le nombre de séries de données \"" + Texte(*f) +
               "\" n'est pas compris entre 0 et 10 : il a été ramené à " + std::to_string(v) + ".");
     }
-    void Reel(float& v) {
-        const auto f = Suivant();
-        if (!f) return;
-        if (const auto n = LireReelCode(*f))
-            v = *n;
-        else
-            ValeurRefusee(*f, lus);
-    }
     // The one character that remains first; it goes with the "]" behind it.
     void Brosse(std::int16_t& v) {
-        const auto brosse = reste.substr(0, 1);
-        if (const auto n = LireEntierCode(brosse))
-            v = *n;
-        else
-            ValeurRefusee(brosse, lus + 1);
+        ++lus;
+        Nombre(reste.substr(0, 1), v, LireEntierCode);
         reste.remove_prefix(std::min<std::size_t>(2, reste.size()));
     }
     void Series(std::array<SerieGraph, kMaxSeriesGraph>&) {}
