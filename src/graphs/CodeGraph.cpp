@@ -32,9 +32,7 @@ struct Ecriture {
     void Entier(std::int16_t& v) { Champ(std::to_string(v)); }
     // The text carries no more series than a record holds.
     void Compte(std::int16_t& v) {
-        std::int16_t n = v;
-        if (n < 0) n = 0;
-        if (n > kMaxSeriesGraph) n = kMaxSeriesGraph;
+        auto n = static_cast<std::int16_t>(std::clamp<int>(v, 0, kMaxSeriesGraph));
         Entier(n);
     }
     void Reel(float& v) { Champ(TexteReel(v, decimale)); }
@@ -49,17 +47,13 @@ struct Ecriture {
     void Reserve(Texte&, std::size_t) {}
 };
 
-// What went wrong first in a code, told once the reading is over.
-struct Probleme {
-    Texte technique;
-};
-
 struct Lecture {
     std::string_view reste;
     int maximum = 0;
     int lus = 0;
     int serie = 0; // 0: the header
-    std::optional<Probleme>* probleme = nullptr;
+    // The technical text of what went wrong first, told once the reading is over.
+    std::optional<Texte>* probleme = nullptr;
 
     std::optional<std::string_view> Suivant() {
         if (lus >= maximum) return std::nullopt;
@@ -71,7 +65,7 @@ struct Lecture {
         return champ;
     }
     void Noter(Texte technique) {
-        if (!probleme->has_value()) *probleme = Probleme{std::move(technique)};
+        if (!probleme->has_value()) *probleme = std::move(technique);
     }
     void ValeurRefusee(std::string_view valeur, int champ) {
         Texte t = "Description technique de l'erreur : La valeur \"" + Texte(valeur) +
@@ -146,7 +140,7 @@ Texte EcrireCodeGraph(Contexte& ctx) {
 void LireCodeGraph(Contexte& ctx, int index, std::string_view code) {
     if (index < 1 || index > kMaxGraphes) return;
     ModeleGraph& g = ctx.etat.graphes.graphes[static_cast<std::size_t>(index)];
-    std::optional<Probleme> probleme;
+    std::optional<Texte> probleme;
 
     Lecture l{code, kChampsEntete, 0, 0, &probleme};
     ParcourirGraphe(l, g);
@@ -168,7 +162,7 @@ void LireCodeGraph(Contexte& ctx, int index, std::string_view code) {
         ParcourirSerie(l, g.series[static_cast<std::size_t>(i - 1)]);
     }
 
-    if (probleme) Signaler(ctx, g, probleme->technique);
+    if (probleme) Signaler(ctx, g, *probleme);
     if (sansCrochet > 0)
         Signaler(ctx, g,
                  Texte("Description technique de l'erreur :") +
