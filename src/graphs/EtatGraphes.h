@@ -1,8 +1,44 @@
 #pragma once
 // State of the graph library and of the chart being drawn.
 
+#include "graphs/ModeleGraph.h"
+
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <random>
+
 namespace verdane {
 
-struct EtatGraphes {};
+class SurfaceGraphique;
+
+inline constexpr int kMaxGraphes = 50;
+
+struct EtatGraphes {
+    // The library in memory: indexes 1 to 50, as graph.txt numbers its records; slot 0 is
+    // never used. Document generation parses each gph( code into slot 1.
+    std::array<ModeleGraph, kMaxGraphes + 1> graphes;
+    // Number of records of the library.
+    std::int16_t nbGraphes = 0;
+    // Index of the selected graph, 0 when none.
+    std::int16_t grapheCourant = 0;
+
+    // The values of the last series read, indexes 0 to 13.
+    std::array<float, 14> valeursSerie{};
+
+    // The chart in use (the editor's preview, or the print chart), and the hidden chart that
+    // documents are drawn on. Not owned; null: no chart, nothing is drawn.
+    SurfaceGraphique* graphCourant = nullptr;
+    SurfaceGraphique* graphInsertion = nullptr;
+
+    // True when the program runs one job of its command line: the editor's preview then draws
+    // the values of the dossier, and not sample values. Set at start-up.
+    bool avecArguments = false;
+
+    // Uniform source in [0, 1) for the colours of series that have none. Empty: the generator
+    // below; tests put their own.
+    std::function<double()> hasard;
+    std::mt19937 generateur{std::random_device{}()};
+};
 
 } // namespace verdane
