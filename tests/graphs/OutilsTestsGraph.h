@@ -1,47 +1,14 @@
 #pragma once
-// Helpers of the graph tests: a user port that keeps what it is told, a scratch folder, and a
-// graph model with every field away from its default.
+// Helpers of the graph tests: a graph model with every field away from its default.
 
 #include "graphs/CodeGraph.h"
+#include "support/DossierTemporaire.h"
+#include "support/FauxUtilisateur.h"
 #include "utils/OutilsFichiers.h"
-
-#include <filesystem>
-#include <string>
-#include <unistd.h>
-#include <vector>
 
 namespace verdane::test {
 
-class UtilisateurNote : public UtilisateurMuet {
-public:
-    std::vector<Message> messages;
-    std::vector<Texte> boites;
-    void AfficherMessage(const Message& m) override { messages.push_back(m); }
-    void Boite(const Texte& texte, const Texte&, Icone) override { boites.push_back(texte); }
-};
-
-// A folder of its own under the system's temporary folder, removed at the end.
-class DossierTemporaire {
-public:
-    DossierTemporaire() {
-        static int compteur = 0;
-        chemin_ =
-            std::filesystem::temp_directory_path() /
-            ("verdane-graph-" + std::to_string(::getpid()) + "-" + std::to_string(++compteur));
-        std::filesystem::remove_all(chemin_);
-        std::filesystem::create_directories(chemin_);
-    }
-    ~DossierTemporaire() {
-        std::error_code ec;
-        std::filesystem::remove_all(chemin_, ec);
-    }
-    const std::filesystem::path& Chemin() const { return chemin_; }
-    // The folder as text of the engine, with its separator at the end.
-    Texte Dossier() const { return AjouterBarre(CheminTexte(chemin_)); }
-
-private:
-    std::filesystem::path chemin_;
-};
+using UtilisateurNote = FauxUtilisateur;
 
 // Three series, odd values in every field, reals with fractions.
 inline ModeleGraph GrapheComplet() {

@@ -254,16 +254,16 @@ protected:
     void SetUp() override {
         if (FormatNombre(1.0f, 0, false).empty()) GTEST_SKIP() << "series reader not in place";
         DessinTest::SetUp();
-        ctx.etat.RepDossier[0] = dossier.Dossier();
+        ctx.etat.RepDossier[0] = dossier.Chemin();
         ctx.etat.NomDossier[0] = "FERME";
-        std::filesystem::create_directories(dossier.Chemin() / "FERME");
+        std::filesystem::create_directories(dossier.Systeme() / "FERME");
         EcrivainBinaire e;
         for (int n = 0; n < 3; ++n) {
             e.Chaine(n == 0 ? "AUTRE:0" : "LAIT:1", 12);
             e.Chaine("Libellé", 22);
             for (int k = 0; k < 14; ++k) e.F32(static_cast<float>(100 * (n + 1) + k));
         }
-        std::ofstream(dossier.Chemin() / "FERME" / "DONNEES.DON", std::ios::binary) << e.Octets();
+        std::ofstream(dossier.Systeme() / "FERME" / "DONNEES.DON", std::ios::binary) << e.Octets();
     }
 };
 

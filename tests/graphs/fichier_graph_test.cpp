@@ -62,8 +62,8 @@ protected:
     Contexte ctx{utilisateur};
     EtatGraphes& eg = ctx.etat.graphes;
 
-    void SetUp() override { ctx.etat.chemins.RepModelGraph = dossier.Dossier() + "ModelGraph/"; }
-    std::filesystem::path Fichier() const { return dossier.Chemin() / "ModelGraph" / "graph.txt"; }
+    void SetUp() override { ctx.etat.chemins.RepModelGraph = dossier.Chemin() + "ModelGraph/"; }
+    std::filesystem::path Fichier() const { return dossier.Systeme() / "ModelGraph" / "graph.txt"; }
     std::string Contenu() const { return LireFichier(CheminTexte(Fichier())).value_or("?"); }
     // `n` records of random bytes with titles of their own, then `queue`.
     std::string Poser(int n, const std::string& queue = "") const {
@@ -82,7 +82,7 @@ TEST_F(FichierGraphTest, SansDossierNiFichierLaBibliothequeNaitVide) {
     LireFichierGraph(ctx);
     EXPECT_EQ(eg.nbGraphes, 0);
     EXPECT_EQ(Contenu(), "");
-    EXPECT_TRUE(utilisateur.boites.empty());
+    EXPECT_TRUE(utilisateur.messages.empty());
 }
 
 TEST_F(FichierGraphTest, LuPuisEcritLeFichierResteIdentiqueEtPerdSaQueue) {
@@ -98,15 +98,15 @@ TEST_F(FichierGraphTest, AuDelaDeCinquanteLesPremiersSontGardesEtLUtilisateurPre
     const std::string biblio = Poser(52);
     LireFichierGraph(ctx);
     EXPECT_EQ(eg.nbGraphes, 50);
-    ASSERT_EQ(utilisateur.boites.size(), 1u);
-    EXPECT_NE(utilisateur.boites[0].find("plus de 50"), std::string::npos);
+    ASSERT_EQ(utilisateur.messages.size(), 1u);
+    EXPECT_NE(utilisateur.messages[0].texte.find("plus de 50"), std::string::npos);
     ASSERT_TRUE(EcrireFichierGraph(ctx));
     EXPECT_EQ(Contenu(), biblio.substr(0, 50 * kTailleEnrGraph));
     // Exactly 50 is not too many; a code has no room left.
     LireFichierGraph(ctx);
-    EXPECT_EQ(utilisateur.boites.size(), 1u);
+    EXPECT_EQ(utilisateur.messages.size(), 1u);
     EXPECT_EQ(AjouterCodeAuFichier(ctx, "Trop;1;"), 0);
-    EXPECT_EQ(utilisateur.boites.size(), 2u);
+    EXPECT_EQ(utilisateur.messages.size(), 2u);
     EXPECT_EQ(Contenu().size(), 50 * kTailleEnrGraph);
 }
 
