@@ -48,7 +48,7 @@ void Expliquer(Contexte& ctx, const Texte& code, const Issue& issue, Explication
     m.titre = "Interprétation d'un code Verdane";
     m.genre = "Aide";
     const Texte marque = "#mrl(" + code + ")#";
-    const Texte valeur = ParLignes(Rogner(issue.champ.valeur));
+    const Texte valeur = Rogner(ParLignes(issue.champ.valeur));
     switch (issue.explication) {
     case FormeExplication::Exemple:
         m.texte = marque + " est le code pour afficher " + issue.champ.phrase +
@@ -60,8 +60,11 @@ void Expliquer(Contexte& ctx, const Texte& code, const Issue& issue, Explication
     case FormeExplication::Seule:
         m.texte = marque + issue.champ.phrase;
         break;
-    case FormeExplication::SeuleAvecExemple:
-        m.texte = marque + issue.champ.phrase +
+    case FormeExplication::Phrase:
+        m.texte = issue.champ.phrase;
+        break;
+    case FormeExplication::PhraseAvecExemple:
+        m.texte = issue.champ.phrase +
                   " Par exemple, pour le dossier Marlo actuellement lié à Verdane, le résultat du "
                   "code serait : " +
                   valeur;

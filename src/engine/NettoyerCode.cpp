@@ -9,13 +9,15 @@ namespace verdane {
 
 namespace {
 
-// Control words that LibreOffice and recent Word put around a run of text. The removals below
-// would cut them in pieces ("\cf1" would leave "f1"), so they go whole first, with their number
-// and the blank that ends them.
+// Control words that LibreOffice and recent Word put around a run of text, and the font size
+// of any word processor. The removals below would cut them in pieces ("\cf1" would leave "f1",
+// "\fs22" a lone backslash), so they go whole first, with their number and the blank that ends
+// them.
 constexpr std::string_view kMotsDeMiseEnForme[] = {
-    "rtlch", "ltrch",   "loch",      "hich", "dbch",    "fcs",     "af",     "afs",    "ab",
-    "ai",    "insrsid", "charrsid",  "cf",   "f",       "kerning", "langfe", "langnp", "langfenp",
-    "alang", "noproof", "highlight", "cb",   "chcbpat", "expndtw", "expnd",  "cgrid",  "chshdng"};
+    "rtlch",   "ltrch",   "loch",    "hich",     "dbch",     "fcs",     "af",
+    "afs",     "ab",      "ai",      "insrsid",  "charrsid", "cf",      "f",
+    "kerning", "langfe",  "langnp",  "langfenp", "alang",    "noproof", "highlight",
+    "cb",      "chcbpat", "expndtw", "expnd",    "cgrid",    "chshdng", "fs"};
 
 bool EstMotDeMiseEnForme(std::string_view mot) {
     for (auto m : kMotsDeMiseEnForme)

@@ -67,7 +67,7 @@ Issue Info() {
     Issue i = Valeur(" ", "#mrl(INFO:code:taillecode:titre:infos:repere)# est le code "
                           "permettant l'affichage d'une info-bulle comprenant un titre en gras "
                           "suivi de l'information elle-même.");
-    i.explication = FormeExplication::Seule;
+    i.explication = FormeExplication::Phrase;
     i.technique = "Les infos-bulles au même titre que les commentaires de mise à jour des "
                   "données ( ne pas confondre ! ) s'affichent lorsque l'on pointe la souris sur "
                   "un texte ou un espace commenté.";
@@ -185,7 +185,7 @@ Issue CodeAPrefixe(Contexte& ctx, const Texte& code, bool expliquer, const Insta
         Issue i = Valeur(LireDonneesIni(ctx, code),
                          "#mrl(INI:identifiantDonnée)# est le code permettant l'affichage d'une "
                          "information contenue dans un .INI.");
-        i.explication = FormeExplication::SeuleAvecExemple;
+        i.explication = FormeExplication::PhraseAvecExemple;
         return i;
     }
     if (CommencePar(code, "date(")) {

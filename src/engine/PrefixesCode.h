@@ -9,10 +9,11 @@
 namespace verdane {
 
 enum class FormeExplication {
-    Exemple,          // "... est le code pour afficher " + phrase + example of the value
-    Seule,            // the mark + phrase, nothing more
-    SeuleAvecExemple, // the mark + phrase, then the example
-    Tableau,          // the code cut to 50 characters + "... " + phrase; no value
+    Exemple,           // "... est le code pour afficher " + phrase + example of the value
+    Seule,             // the mark + phrase, nothing more
+    Phrase,            // the phrase alone (it names its code itself)
+    PhraseAvecExemple, // the phrase, then the example
+    Tableau,           // the code cut to 50 characters + "... " + phrase; no value
 };
 
 // What the dispatch of one code found.
