@@ -78,6 +78,7 @@ void Expliquer(Contexte& ctx, const Texte& code, const Issue& issue, Explication
     if (explication) {
         explication->code = marque;
         explication->phrase = m.texte;
+        explication->technique = m.technique;
         explication->valeur = issue.explication == FormeExplication::Tableau ? Texte() : valeur;
         explication->valeurCalculee = issue.explication != FormeExplication::Tableau;
         explication->tableau = issue.tableau;

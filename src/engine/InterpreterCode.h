@@ -9,6 +9,7 @@ namespace verdane {
 struct Explication {
     Texte code;                 // "#mrl(<code>)#", the code as written
     Texte phrase;               // the main text of the message form
+    Texte technique;            // its technical text, if any
     Texte valeur;               // the value for the linked dossier, "\par " turned into line breaks
     bool valeurCalculee = true; // false for tables: their value isn't computed in this mode
     bool tableau = false;       // a `tab` code: its model can be taken back into the editor

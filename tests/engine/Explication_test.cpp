@@ -69,7 +69,7 @@ TEST_F(Explications, TableauxSansCalcul) {
     EXPECT_EQ(Dernier().texte, code.substr(0, 50) +
                                    "...  est le code d'un tableau permettant de comparer les "
                                    "données de 3 dossiers.");
-    EXPECT_EQ(Dernier().technique.rfind("En cliquant ci-dessous, Verdane re-constitutera", 0), 0u);
+    EXPECT_EQ(e.technique.rfind("En cliquant ci-dessous, Verdane re-constitutera", 0), 0u);
     EXPECT_TRUE(e.tableau);
     EXPECT_FALSE(e.valeurCalculee);
     EXPECT_EQ(e.valeur, "");
