@@ -62,15 +62,7 @@ Texte DateDossier(const EnrDossier& d) {
     if (erreur) throw std::runtime_error("dossier introuvable : " + chemin);
     const auto systeme = std::chrono::time_point_cast<std::chrono::seconds>(
         quand - std::filesystem::file_time_type::clock::now() + std::chrono::system_clock::now());
-    const std::time_t t = std::chrono::system_clock::to_time_t(systeme);
-    std::tm tm{};
-#ifdef _WIN32
-    localtime_s(&tm, &t);
-#else
-    localtime_r(&t, &tm);
-#endif
-    const Instant m{tm.tm_year + 1900, tm.tm_mon + 1, tm.tm_mday, tm.tm_hour, tm.tm_min, tm.tm_sec};
-    return DateGenerale(m).substr(0, 9);
+    return DateGenerale(InstantLocal(std::chrono::system_clock::to_time_t(systeme))).substr(0, 9);
 }
 
 std::optional<Champ> ChampProjet(const EnrDossier& d, const Texte& code) {

@@ -65,7 +65,10 @@ DateSimple DebutExercice(const Texte& dateDebut) {
 } // namespace
 
 Instant MaintenantSysteme() {
-    const std::time_t t = std::time(nullptr);
+    return InstantLocal(std::time(nullptr));
+}
+
+Instant InstantLocal(std::time_t t) {
     std::tm tm{};
 #ifdef _WIN32
     localtime_s(&tm, &t);

@@ -4,6 +4,7 @@
 #include "engine/Champ.h"
 #include "engine/ExtensionsCode.h"
 
+#include <ctime>
 #include <optional>
 
 namespace verdane {
@@ -13,6 +14,9 @@ struct DateSimple {
     int mois = 1;
     int annee = 1;
 };
+
+// A time of the system's clock, in local time.
+Instant InstantLocal(std::time_t t);
 
 // "dd/mm/yyyy" (one or two digits for day and month); nothing if it isn't a real date.
 std::optional<DateSimple> LireDate(const Texte& texte);

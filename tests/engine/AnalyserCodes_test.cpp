@@ -21,21 +21,16 @@ protected:
         m.ctx.etat.enrDossier.tel = "0102";
         m.ctx.etat.enrDossier.fax = "0304";
     }
-    Texte Developper(Texte texte, bool* resultat = nullptr) {
-        const bool r = AnalyserCodes(m.ctx, texte, false, false);
-        if (resultat) *resultat = r;
-        return texte;
-    }
     MoteurDeTest m;
 };
 
 TEST_F(Scanner, RemplaceChaqueMarqueEtGardeLeTexteAutour) {
     bool resultat = false;
-    EXPECT_EQ(Developper("A #mrl(tel)# B #mrl(fax)# C", &resultat), "A 0102 B 0304 C");
+    EXPECT_EQ(m.Developper("A #mrl(tel)# B #mrl(fax)# C", &resultat), "A 0102 B 0304 C");
     EXPECT_TRUE(resultat);
-    EXPECT_EQ(Developper("sans code", &resultat), "sans code");
+    EXPECT_EQ(m.Developper("sans code", &resultat), "sans code");
     EXPECT_TRUE(resultat);
-    EXPECT_EQ(Developper("#mrl(tel)##mrl(fax)#"), "01020304");
+    EXPECT_EQ(m.Developper("#mrl(tel)##mrl(fax)#"), "01020304");
     EXPECT_TRUE(m.utilisateur.messages.empty());
 }
 
@@ -61,17 +56,17 @@ TEST_F(Scanner, PositionsComptentDepuisUn) {
 }
 
 TEST_F(Scanner, PremiereMarqueSansCasseLesSuivantesExactes) {
-    EXPECT_EQ(Developper("#MRL(tel)# et #MRL(fax)#"), "0102 et #MRL(fax)#");
-    EXPECT_EQ(Developper("x #Mrl(tel)# #mrl(fax)#"), "x 0102 0304");
+    EXPECT_EQ(m.Developper("#MRL(tel)# et #MRL(fax)#"), "0102 et #MRL(fax)#");
+    EXPECT_EQ(m.Developper("x #Mrl(tel)# #mrl(fax)#"), "x 0102 0304");
 }
 
 TEST_F(Scanner, MarqueOuverteSansFermetureLaisseGagnerLaSuivante) {
-    EXPECT_EQ(Developper("#mrl(a#mrl(nomDossier)#"), "#mrl(aDossier Test");
+    EXPECT_EQ(m.Developper("#mrl(a#mrl(nomDossier)#"), "#mrl(aDossier Test");
     EXPECT_TRUE(m.utilisateur.messages.empty());
 }
 
 TEST_F(Scanner, MarqueSansFinDonneUnMessageEtResteEnPlace) {
-    EXPECT_EQ(Developper("debut #mrl(nomDossier fin"), "debut #mrl(nomDossier fin");
+    EXPECT_EQ(m.Developper("debut #mrl(nomDossier fin"), "debut #mrl(nomDossier fin");
     ASSERT_EQ(m.utilisateur.messages.size(), 1u);
     const Message& msg = m.utilisateur.messages[0];
     EXPECT_EQ(msg.titre, kTitreErreur);
@@ -82,15 +77,15 @@ TEST_F(Scanner, MarqueSansFinDonneUnMessageEtResteEnPlace) {
 }
 
 TEST_F(Scanner, CodeCoupeParLeTraitementDeTexte) {
-    EXPECT_EQ(Developper("#mrl(nom{\\fs22 Dossier})#"), "Dossier Test");
-    EXPECT_EQ(Developper("#mrl(nom{\\*\\bkmkstart DDE_LINK1}Dossier{\\*\\bkmkend DDE_LINK1})#"),
+    EXPECT_EQ(m.Developper("#mrl(nom{\\fs22 Dossier})#"), "Dossier Test");
+    EXPECT_EQ(m.Developper("#mrl(nom{\\*\\bkmkstart DDE_LINK1}Dossier{\\*\\bkmkend DDE_LINK1})#"),
               "Dossier Test");
-    EXPECT_EQ(Developper("#mrl(nom\\par Dos\r\nsier)#"), "Dossier Test");
+    EXPECT_EQ(m.Developper("#mrl(nom\\par Dos\r\nsier)#"), "Dossier Test");
     // LibreOffice's run properties.
-    EXPECT_EQ(Developper("#mrl(nom{\\rtlch\\fcs1 \\af0 \\ltrch\\fcs0 \\cf1\\insrsid1234 "
-                         "Dossier})#"),
+    EXPECT_EQ(m.Developper("#mrl(nom{\\rtlch\\fcs1 \\af0 \\ltrch\\fcs0 \\cf1\\insrsid1234 "
+                           "Dossier})#"),
               "Dossier Test");
-    EXPECT_EQ(Developper("#mrl(nom{\\loch\\hich\\f5 Doss}{\\b\\i ier})#"), "Dossier Test");
+    EXPECT_EQ(m.Developper("#mrl(nom{\\loch\\hich\\f5 Doss}{\\b\\i ier})#"), "Dossier Test");
     EXPECT_TRUE(m.utilisateur.messages.empty());
 }
 
@@ -148,7 +143,7 @@ TEST_F(Scanner, CodesImbriquesSansAnnotation) {
 
 TEST_F(Scanner, CodeInconnuResteEnTexte) {
     // The catalogue's row `type` is no code: it has no "-".
-    EXPECT_EQ(Developper("x #mrl(type)# y"), "x #mrl(type)# y");
+    EXPECT_EQ(m.Developper("x #mrl(type)# y"), "x #mrl(type)# y");
     ASSERT_EQ(m.utilisateur.messages.size(), 1u);
     EXPECT_EQ(m.utilisateur.messages[0].titre, kTitreErreur);
     EXPECT_EQ(m.utilisateur.messages[0].texte,
@@ -158,18 +153,18 @@ TEST_F(Scanner, CodeInconnuResteEnTexte) {
 
 TEST_F(Scanner, EntreesExtremesNeCassentRien) {
     const Texte enorme = "#mrl(" + Texte(100000, 'x') + ")#";
-    EXPECT_EQ(Developper(enorme), enorme);
+    EXPECT_EQ(m.Developper(enorme), enorme);
     ASSERT_EQ(m.utilisateur.messages.size(), 1u);
     EXPECT_EQ(m.utilisateur.messages[0].texte,
               "La portion de code \"" + Texte(50, 'x') +
                   "...\" dans le modèle est inconnue de l'interpréteur Verdane.");
 
-    EXPECT_EQ(Developper("#mrl()#"), "#mrl()#");
-    EXPECT_EQ(Developper(")# #mrl( #mrl("), ")# #mrl( #mrl(");
-    EXPECT_EQ(Developper("#mrl(ORGANOM25)#"), "??"); // the word is "NOM2"
-    EXPECT_EQ(Developper("#mrl(ORGA)#"), "??");
-    EXPECT_EQ(Developper("#mrl(INFO:)#"), "\\~");
-    EXPECT_EQ(Developper("#mrl(date()#"), "dimanche 22 novembre 2026");
+    EXPECT_EQ(m.Developper("#mrl()#"), "#mrl()#");
+    EXPECT_EQ(m.Developper(")# #mrl( #mrl("), ")# #mrl( #mrl(");
+    EXPECT_EQ(m.Developper("#mrl(ORGANOM25)#"), "??"); // the word is "NOM2"
+    EXPECT_EQ(m.Developper("#mrl(ORGA)#"), "??");
+    EXPECT_EQ(m.Developper("#mrl(INFO:)#"), "\\~");
+    EXPECT_EQ(m.Developper("#mrl(date()#"), "dimanche 22 novembre 2026");
 
     // Random assemblies of the language's pieces.
     const char* const morceaux[] = {

@@ -14,13 +14,8 @@ namespace {
 
 class Champs : public ::testing::Test {
 protected:
-    Texte Valeur(const Texte& code) {
-        Texte texte = "#mrl(" + code + ")#";
-        AnalyserCodes(m.ctx, texte, false, false);
-        return texte;
-    }
     void Verifier(const std::vector<std::pair<Texte, Texte>>& attendus) {
-        for (const auto& [code, valeur] : attendus) EXPECT_EQ(Valeur(code), valeur) << code;
+        for (const auto& [code, valeur] : attendus) EXPECT_EQ(m.Valeur(code), valeur) << code;
         EXPECT_TRUE(m.utilisateur.messages.empty());
     }
     MoteurDeTest m;
@@ -119,10 +114,10 @@ TEST_F(Champs, AgesInconnusEtIllisibles) {
     d.naissanceAssocie[0] = "10/12/1970";
     dossier.Installer(m.ctx, d);
     // The JA partner's unknown date gives an empty age, not that of entry 0.
-    EXPECT_EQ(Valeur("ageExplJA"), "\\~");
+    EXPECT_EQ(m.Valeur("ageExplJA"), "\\~");
     m.ctx.etat.enrDossier.jaAssocie[2] = 0;
     // 22/11/2026 against 10/12/1970, months of 30.5 days: 55.9 years.
-    EXPECT_EQ(Valeur("ageExplJA"), "55");
+    EXPECT_EQ(m.Valeur("ageExplJA"), "55");
 
     // A date that can't be read ends that code alone.
     m.ctx.etat.enrDossier.naissanceAssocie[0] = "31/02/1970";
@@ -132,9 +127,9 @@ TEST_F(Champs, AgesInconnusEtIllisibles) {
 }
 
 TEST_F(Champs, CompteurDePages) {
-    EXPECT_EQ(Valeur("numPage2"), "\\v0 -21");
-    EXPECT_EQ(Valeur("numPage2bis"), "\\v0 -2bis2");
-    EXPECT_EQ(Valeur("numPage2"), "\\v0 -23");
+    EXPECT_EQ(m.Valeur("numPage2"), "\\v0 -21");
+    EXPECT_EQ(m.Valeur("numPage2bis"), "\\v0 -2bis2");
+    EXPECT_EQ(m.Valeur("numPage2"), "\\v0 -23");
     EXPECT_EQ(m.ctx.etat.NumPageCourant, 3);
 }
 
@@ -142,9 +137,9 @@ TEST_F(Champs, DateDuDossierEtDossierAbsent) {
     EnrDossier d = SocieteDeTest();
     d.chemin = dossier.Dossier();
     dossier.Installer(m.ctx, d);
-    EXPECT_TRUE(std::regex_match(Valeur("dateDossier"), std::regex(R"(\d\d/\d\d/\d\d\d)")));
+    EXPECT_TRUE(std::regex_match(m.Valeur("dateDossier"), std::regex(R"(\d\d/\d\d/\d\d\d)")));
     m.ctx.etat.enrDossier.chemin = dossier.Racine() + "absent" + kSeparateur;
-    EXPECT_EQ(Valeur("dateDossier"), "#mrl(dateDossier)#");
+    EXPECT_EQ(m.Valeur("dateDossier"), "#mrl(dateDossier)#");
 }
 
 TEST_F(Champs, Organismes) {
@@ -170,12 +165,12 @@ TEST_F(Champs, Organismes) {
         {"ORGALOGO3", "\\~"},
     });
     o.logo = dossier.Dossier() + "absent.png";
-    EXPECT_EQ(Valeur("ORGALOGO3"), "\\~");
+    EXPECT_EQ(m.Valeur("ORGALOGO3"), "\\~");
 
     const std::string png("\x89PNG\r\n\x1a\n\0\0\0\x0dIHDR\0\0\0\x02\0\0\0\x01\x08\x02\0\0\0", 29);
     dossier.Ecrire("logo.png", png);
     o.logo = dossier.Dossier() + "logo.png";
-    const Texte rtf = Valeur("ORGALOGO3");
+    const Texte rtf = m.Valeur("ORGALOGO3");
     EXPECT_EQ(rtf.rfind("{\\pict\\pngblip\\picw2\\pich1", 0), 0u) << rtf;
 }
 

@@ -31,37 +31,31 @@ protected:
                                          {0, 1234.5f, 0, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13}) +
                                        Serie("VL2:0", "Vaches", {}));
     }
-    Texte Valeur(const Texte& code, bool* resultat = nullptr) {
-        Texte texte = "#mrl(" + code + ")#";
-        const bool r = AnalyserCodes(m.ctx, texte, false, false);
-        if (resultat) *resultat = r;
-        return texte;
-    }
     MoteurDeTest m;
     DossierTemporaire dossier;
 };
 
 TEST_F(Donnees, ValeursEtDecimales) {
-    EXPECT_EQ(Valeur("VLVB.don+VLVB-1a1"), FormatNombre(1234.5f, 1, false));
-    EXPECT_EQ(Valeur("VLVB.don+VLVB-1a1:0"), FormatNombre(1234.5f, 0, false));
-    EXPECT_EQ(Valeur("VLVB.don+VLVB-10a1:2"), FormatNombre(10.0f, 2, false));
-    EXPECT_EQ(Valeur("VLVB.don+VLVB-i1"), "lait");
-    EXPECT_EQ(Valeur("VLVB.don+VLVB-u1"), "litres");
+    EXPECT_EQ(m.Valeur("VLVB.don+VLVB-1a1"), FormatNombre(1234.5f, 1, false));
+    EXPECT_EQ(m.Valeur("VLVB.don+VLVB-1a1:0"), FormatNombre(1234.5f, 0, false));
+    EXPECT_EQ(m.Valeur("VLVB.don+VLVB-10a1:2"), FormatNombre(10.0f, 2, false));
+    EXPECT_EQ(m.Valeur("VLVB.don+VLVB-i1"), "lait");
+    EXPECT_EQ(m.Valeur("VLVB.don+VLVB-u1"), "litres");
     // Blanks written by the word processor inside the code are cleaned away.
-    EXPECT_EQ(Valeur("VLVB.don+{\\fs22 VLVB-1a1}:0"), FormatNombre(1234.5f, 0, false));
+    EXPECT_EQ(m.Valeur("VLVB.don+{\\fs22 VLVB-1a1}:0"), FormatNombre(1234.5f, 0, false));
     // A missing file: a blank, and no message.
-    EXPECT_EQ(Valeur("ABSENT.don+X-1a1"), "\\~");
+    EXPECT_EQ(m.Valeur("ABSENT.don+X-1a1"), "\\~");
     EXPECT_TRUE(m.utilisateur.messages.empty());
 }
 
 TEST_F(Donnees, ConditionsSurUneDonnee) {
     bool resultat = true;
-    EXPECT_EQ(Valeur("si(VLVB.don+VLVB-1a2<>0)alors:nomDossier", &resultat), "\\v");
+    EXPECT_EQ(m.Valeur("si(VLVB.don+VLVB-1a2<>0)alors:nomDossier", &resultat), "\\v");
     EXPECT_FALSE(resultat);
-    EXPECT_EQ(Valeur("si(VLVB.don+VLVB-1a1<>0)alors:nomDossier", &resultat), "Dossier Test");
+    EXPECT_EQ(m.Valeur("si(VLVB.don+VLVB-1a1<>0)alors:nomDossier", &resultat), "Dossier Test");
     EXPECT_TRUE(resultat);
     // A missing file reads empty: the condition is false.
-    EXPECT_EQ(Valeur("si(ABSENT.don+X-1a1<>0)alors:nomDossier", &resultat), "\\v");
+    EXPECT_EQ(m.Valeur("si(ABSENT.don+X-1a1<>0)alors:nomDossier", &resultat), "\\v");
     EXPECT_FALSE(resultat);
 }
 

@@ -2,6 +2,7 @@
 // Fakes of the ports for the engine's tests: a user who records every message, and engines
 // that answer with recognisable texts at a fixed time.
 
+#include "engine/AnalyserCodes.h"
 #include "engine/ExtensionsCode.h"
 #include "shell/Contexte.h"
 
@@ -49,6 +50,17 @@ struct MoteurDeTest {
     FaussesExtensions extensions;
 
     MoteurDeTest() { ctx.extensions = &extensions; }
+
+    // `texte` with its marks expanded; `resultat` receives the scanner's result.
+    Texte Developper(Texte texte, bool* resultat = nullptr) {
+        const bool r = AnalyserCodes(ctx, texte, false, false);
+        if (resultat) *resultat = r;
+        return texte;
+    }
+    // The expansion of one code standing alone.
+    Texte Valeur(const Texte& code, bool* resultat = nullptr) {
+        return Developper("#mrl(" + code + ")#", resultat);
+    }
 };
 
 } // namespace verdane::test

@@ -11,22 +11,18 @@ namespace {
 class Annotations : public ::testing::Test {
 protected:
     void SetUp() override { m.ctx.etat.enrDossier.tel = "  0102  "; }
-    Texte Developper(Texte texte) {
-        AnalyserCodes(m.ctx, texte, false, false);
-        return texte;
-    }
     MoteurDeTest m;
 };
 
 TEST_F(Annotations, ValeurNueSansAnnotation) {
-    EXPECT_EQ(Developper("a #mrl(tel)# b"), "a 0102 b");
-    EXPECT_EQ(Developper("a #mrl(fax)# b"), "a \\~ b"); // a field never vanishes
+    EXPECT_EQ(m.Developper("a #mrl(tel)# b"), "a 0102 b");
+    EXPECT_EQ(m.Developper("a #mrl(fax)# b"), "a \\~ b"); // a field never vanishes
 }
 
 TEST_F(Annotations, BrancheAvecAnnotation) {
     m.ctx.etat.options.SansAnnotation = 0;
     m.ctx.etat.options.CouleurAnnotation = 2;
-    EXPECT_EQ(Developper("a #mrl(t el)# b"),
+    EXPECT_EQ(m.Developper("a #mrl(t el)# b"),
               "a {\\fs22 {\\*\\atrfstart 47317183}0102}{\\cs15\\v\\cf2\\fs18 {\\*\\atrfend "
               "47317183}{\\*\\atnid MRL}{\\*\\atnauthor Code Verdane pour la construction de la "
               "donnée }\\chatn {\\*\\annotation {\\*\\atnref 47317183}{#mrl(t el)#}}} b");
@@ -41,24 +37,24 @@ TEST_F(Annotations, InfoBulle) {
     const Texte attendu = "{\\fs22 {\\*\\atrfstart 47317183}mot}{\\cs15\\v\\fs20 {\\*\\atrfend "
                           "47317183}{\\*\\atnid MRL}{\\*\\atnauthor Titre long }\\chatn "
                           "{\\*\\annotation {\\*\\atnref 47317183}{Le texte}}}";
-    EXPECT_EQ(Developper("#mrl(INFO:MRL:10:Titre_long:Le_texte:mot)#"), attendu);
+    EXPECT_EQ(m.Developper("#mrl(INFO:MRL:10:Titre_long:Le_texte:mot)#"), attendu);
     // Two in a row share the number; the annotation branch gives way to the tooltip.
     m.ctx.etat.options.SansAnnotation = 0;
-    EXPECT_EQ(Developper("#mrl(INFO:MRL:10:Titre_long:Le_texte:mot)##mrl(Info:MRL:10:Titre_long:"
-                         "Le_texte:mot)#"),
+    EXPECT_EQ(m.Developper("#mrl(INFO:MRL:10:Titre_long:Le_texte:mot)##mrl(Info:MRL:10:Titre_long:"
+                           "Le_texte:mot)#"),
               attendu + attendu);
 }
 
 TEST_F(Annotations, InfoBulleIncompleteOuTailleIllisible) {
-    EXPECT_EQ(Developper("a #mrl(INFO:MRL:10:Titre)# b"), "a \\~ b");
-    EXPECT_EQ(Developper("#mrl(INFO:MRL:10:T:I:)#"),
+    EXPECT_EQ(m.Developper("a #mrl(INFO:MRL:10:Titre)# b"), "a \\~ b");
+    EXPECT_EQ(m.Developper("#mrl(INFO:MRL:10:T:I:)#"),
               "{\\fs22 {\\*\\atrfstart 47317183}\\~}{\\cs15\\v\\fs20 {\\*\\atrfend "
               "47317183}{\\*\\atnid MRL}{\\*\\atnauthor T }\\chatn {\\*\\annotation "
               "{\\*\\atnref 47317183}{I}}}");
-    EXPECT_EQ(Developper("#mrl(INFO:MRL:dix:T:I:m)# et #mrl(tel)#"),
+    EXPECT_EQ(m.Developper("#mrl(INFO:MRL:dix:T:I:m)# et #mrl(tel)#"),
               "#mrl(INFO:MRL:dix:T:I:m)# et 0102");
-    EXPECT_EQ(Developper("#mrl(INFO:MRL:1e9:T:I:m)#"), "#mrl(INFO:MRL:1e9:T:I:m)#");
-    EXPECT_NE(Developper("#mrl(INFO:MRL:7,5:T:I:m)#").find("\\fs15 "), Texte::npos);
+    EXPECT_EQ(m.Developper("#mrl(INFO:MRL:1e9:T:I:m)#"), "#mrl(INFO:MRL:1e9:T:I:m)#");
+    EXPECT_NE(m.Developper("#mrl(INFO:MRL:7,5:T:I:m)#").find("\\fs15 "), Texte::npos);
 }
 
 TEST_F(Annotations, PositionRendue) {

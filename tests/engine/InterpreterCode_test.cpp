@@ -17,37 +17,31 @@ protected:
         m.ctx.etat.enrDossier.nom = "Dossier Test";
         m.ctx.etat.enrDossier.dateDebut = "01/10/2004";
     }
-    Texte Valeur(const Texte& code, bool* resultat = nullptr) {
-        Texte texte = "#mrl(" + code + ")#";
-        const bool r = AnalyserCodes(m.ctx, texte, false, false);
-        if (resultat) *resultat = r;
-        return texte;
-    }
     MoteurDeTest m;
 };
 
 TEST_F(Interpreteur, DatesDesExercices) {
-    EXPECT_EQ(Valeur("date1"), "Oct. 2004 - Sep. 2005");
-    EXPECT_EQ(Valeur("date0"), "Oct. 2003 - Sep. 2004");
-    EXPECT_EQ(Valeur("an4Fin1"), "2005");
-    EXPECT_EQ(Valeur("an4Deb1"), "2004");
-    EXPECT_EQ(Valeur("an2Deb1"), "04");
-    EXPECT_EQ(Valeur("mois2Deb1"), "10");
-    EXPECT_EQ(Valeur("mois2Fin1"), "9");
-    EXPECT_EQ(Valeur("moisCDeb3"), "Oct.");
-    EXPECT_EQ(Valeur("moisCFin3"), "Sep.");
+    EXPECT_EQ(m.Valeur("date1"), "Oct. 2004 - Sep. 2005");
+    EXPECT_EQ(m.Valeur("date0"), "Oct. 2003 - Sep. 2004");
+    EXPECT_EQ(m.Valeur("an4Fin1"), "2005");
+    EXPECT_EQ(m.Valeur("an4Deb1"), "2004");
+    EXPECT_EQ(m.Valeur("an2Deb1"), "04");
+    EXPECT_EQ(m.Valeur("mois2Deb1"), "10");
+    EXPECT_EQ(m.Valeur("mois2Fin1"), "9");
+    EXPECT_EQ(m.Valeur("moisCDeb3"), "Oct.");
+    EXPECT_EQ(m.Valeur("moisCFin3"), "Sep.");
 
     // A calendar exercise: the "Fin" years take no day off.
     m.ctx.etat.enrDossier.dateDebut = "01/01/2004";
-    EXPECT_EQ(Valeur("date9"), "Jan. 2012 - Déc. 2012");
-    EXPECT_EQ(Valeur("an2Fin9"), "13");
-    EXPECT_EQ(Valeur("an4Fin9"), "2013");
-    EXPECT_EQ(Valeur("mois2Fin9"), "12");
+    EXPECT_EQ(m.Valeur("date9"), "Jan. 2012 - Déc. 2012");
+    EXPECT_EQ(m.Valeur("an2Fin9"), "13");
+    EXPECT_EQ(m.Valeur("an4Fin9"), "2013");
+    EXPECT_EQ(m.Valeur("mois2Fin9"), "12");
 
     // 29 February moved by a year.
     m.ctx.etat.enrDossier.dateDebut = "29/02/2004";
-    EXPECT_EQ(Valeur("date2"), "Fév. 2005 - Fév. 2006");
-    EXPECT_EQ(Valeur("moisCFin1"), "Fév.");
+    EXPECT_EQ(m.Valeur("date2"), "Fév. 2005 - Fév. 2006");
+    EXPECT_EQ(m.Valeur("moisCFin1"), "Fév.");
     EXPECT_TRUE(m.utilisateur.messages.empty());
 }
 
@@ -83,22 +77,22 @@ TEST(DateCode, FormesDuJour) {
 }
 
 TEST_F(Interpreteur, CodeDateParLHorlogeInjectee) {
-    EXPECT_EQ(Valeur("date(0)"), "dimanche 22 novembre 2026");
-    EXPECT_EQ(Valeur("date(8)"), "22/11/2026");
-    EXPECT_EQ(Valeur("date(17)"), "09-05");
-    EXPECT_EQ(Valeur("date(99)"), "\\~");
-    EXPECT_EQ(Valeur("date( 3 )"), "22/11/2026"); // the blanks are cleaned away
+    EXPECT_EQ(m.Valeur("date(0)"), "dimanche 22 novembre 2026");
+    EXPECT_EQ(m.Valeur("date(8)"), "22/11/2026");
+    EXPECT_EQ(m.Valeur("date(17)"), "09-05");
+    EXPECT_EQ(m.Valeur("date(99)"), "\\~");
+    EXPECT_EQ(m.Valeur("date( 3 )"), "22/11/2026"); // the blanks are cleaned away
 }
 
 TEST_F(Interpreteur, Conditions) {
     bool resultat = true;
-    EXPECT_EQ(Valeur("si(x)alors:nomDossier", &resultat), "Dossier Test");
+    EXPECT_EQ(m.Valeur("si(x)alors:nomDossier", &resultat), "Dossier Test");
     EXPECT_TRUE(resultat);
-    EXPECT_EQ(Valeur("si(0<>0)alors:nomDossier", &resultat), "\\v");
+    EXPECT_EQ(m.Valeur("si(0<>0)alors:nomDossier", &resultat), "\\v");
     EXPECT_FALSE(resultat);
-    EXPECT_EQ(Valeur("SI(5<>0)alors:nomDossier", &resultat), "Dossier Test");
+    EXPECT_EQ(m.Valeur("SI(5<>0)alors:nomDossier", &resultat), "Dossier Test");
     EXPECT_TRUE(resultat);
-    EXPECT_EQ(Valeur("si(<>0)alors:nomDossier", &resultat), "\\v");
+    EXPECT_EQ(m.Valeur("si(<>0)alors:nomDossier", &resultat), "\\v");
     EXPECT_FALSE(resultat);
 
     // The result of a run of marks is that of the last code.
@@ -110,8 +104,8 @@ TEST_F(Interpreteur, Conditions) {
 
 TEST_F(Interpreteur, ConditionSansAlors) {
     const Texte attendu = "< Portion de code erronée dans le modèle de document >";
-    EXPECT_EQ(Valeur("si("), attendu);
-    EXPECT_EQ(Valeur("si(x)nomDossier"), attendu);
+    EXPECT_EQ(m.Valeur("si("), attendu);
+    EXPECT_EQ(m.Valeur("si(x)nomDossier"), attendu);
     ASSERT_EQ(m.utilisateur.messages.size(), 2u);
     EXPECT_EQ(m.utilisateur.messages[0].titre, kTitreErreur);
     EXPECT_EQ(m.utilisateur.messages[1].texte,
@@ -120,39 +114,39 @@ TEST_F(Interpreteur, ConditionSansAlors) {
     EXPECT_EQ(m.utilisateur.messages[1].technique,
               "Modifier le modèle de document pour que l'erreur n'apparaisse plus.");
     const Texte longue = "si(" + Texte(60, 'v');
-    Valeur(longue);
+    m.Valeur(longue);
     EXPECT_NE(m.utilisateur.messages.back().texte.find("\"" + longue.substr(0, 50) + "...\""),
               Texte::npos);
 }
 
 TEST_F(Interpreteur, TransfoPerennePourLaSeuleSuiteDuCode) {
-    EXPECT_EQ(Valeur("si(TransfoPerenne=VRAI)alors:cultper1"), "[perennes cultper1]");
+    EXPECT_EQ(m.Valeur("si(TransfoPerenne=VRAI)alors:cultper1"), "[perennes cultper1]");
     EXPECT_TRUE(m.extensions.perenne);
-    EXPECT_EQ(Valeur("culture1"), "[cultures culture1]");
+    EXPECT_EQ(m.Valeur("culture1"), "[cultures culture1]");
     EXPECT_FALSE(m.extensions.perenne);
     EXPECT_FALSE(m.ctx.etat.TransfoPerenne);
 }
 
 TEST_F(Interpreteur, TablesGraphiquesFormules) {
-    EXPECT_EQ(Valeur("actlibr2"), "[activites actlibr2]");
-    EXPECT_EQ(Valeur("tabd2;x"), "[tableau tabd2;x]");
-    EXPECT_EQ(Valeur("gph(Mon_graph;1;2)"), "[graphique Mon_graph;1;2]");
-    EXPECT_EQ(Valeur("formule:3a:VL-1+2"), "[formule VL-1+2 en 3]");
+    EXPECT_EQ(m.Valeur("actlibr2"), "[activites actlibr2]");
+    EXPECT_EQ(m.Valeur("tabd2;x"), "[tableau tabd2;x]");
+    EXPECT_EQ(m.Valeur("gph(Mon_graph;1;2)"), "[graphique Mon_graph;1;2]");
+    EXPECT_EQ(m.Valeur("formule:3a:VL-1+2"), "[formule VL-1+2 en 3]");
     EXPECT_TRUE(m.utilisateur.messages.empty());
 
     // Without engines behind them these codes give a blank.
     m.ctx.extensions = nullptr;
-    EXPECT_EQ(Valeur("culture1"), "\\~");
-    EXPECT_EQ(Valeur("tab1"), "\\~");
-    EXPECT_EQ(Valeur("gph(a;b)"), "\\~");
-    EXPECT_EQ(Valeur("formule:3a:1+1"), "\\~");
+    EXPECT_EQ(m.Valeur("culture1"), "\\~");
+    EXPECT_EQ(m.Valeur("tab1"), "\\~");
+    EXPECT_EQ(m.Valeur("gph(a;b)"), "\\~");
+    EXPECT_EQ(m.Valeur("formule:3a:1+1"), "\\~");
     EXPECT_TRUE(m.utilisateur.messages.empty());
 }
 
 TEST_F(Interpreteur, GraphiqueMalFormeResteEnTexte) {
-    EXPECT_EQ(Valeur("gph(a;b"), "#mrl(gph(a;b)#");
+    EXPECT_EQ(m.Valeur("gph(a;b"), "#mrl(gph(a;b)#");
     EXPECT_TRUE(m.utilisateur.messages.empty());
-    EXPECT_EQ(Valeur("gph(ancien)"), "#mrl(gph(ancien))#");
+    EXPECT_EQ(m.Valeur("gph(ancien)"), "#mrl(gph(ancien))#");
     ASSERT_EQ(m.utilisateur.messages.size(), 1u);
     const Message& msg = m.utilisateur.messages[0];
     EXPECT_EQ(msg.titre, "Code d'un graphique erroné dans le modèle VDM");
@@ -166,8 +160,8 @@ TEST_F(Interpreteur, GraphiqueMalFormeResteEnTexte) {
 
 TEST_F(Interpreteur, FormulesMalRenseignees) {
     const Texte mal = "<Code Mal renseigné : valeur non calculée>";
-    EXPECT_EQ(Valeur("formule:3:1+1"), mal);
-    EXPECT_EQ(Valeur("formule:3a"), mal);
+    EXPECT_EQ(m.Valeur("formule:3:1+1"), mal);
+    EXPECT_EQ(m.Valeur("formule:3a"), mal);
     ASSERT_EQ(m.utilisateur.messages.size(), 2u);
     EXPECT_EQ(m.utilisateur.messages[0].texte,
               "La portion de code \"formule:3:1+1\" dans le modèle est mal renseignée : il manque "
@@ -182,12 +176,12 @@ TEST_F(Interpreteur, FormulesMalRenseignees) {
 TEST_F(Interpreteur, ProfilsDesPrefixes) {
     // Exact words first: `date1` is a study date, `date(1)` today's; `tel` isn't a table.
     m.ctx.etat.enrDossier.tel = "0102";
-    EXPECT_EQ(Valeur("tel"), "0102");
-    EXPECT_EQ(Valeur("date(1)"), "22 novembre 2026");
+    EXPECT_EQ(m.Valeur("tel"), "0102");
+    EXPECT_EQ(m.Valeur("date(1)"), "22 novembre 2026");
     // Keywords are case sensitive but for ORGA, INFO: and INI:.
-    EXPECT_EQ(Valeur("NomDossier"), "#mrl(NomDossier)#");
-    EXPECT_NE(Valeur("info:a:10:b:c:d").find("{\\*\\atnauthor b }"), Texte::npos);
-    EXPECT_EQ(Valeur("ini:rien"), "\\~");
+    EXPECT_EQ(m.Valeur("NomDossier"), "#mrl(NomDossier)#");
+    EXPECT_NE(m.Valeur("info:a:10:b:c:d").find("{\\*\\atnauthor b }"), Texte::npos);
+    EXPECT_EQ(m.Valeur("ini:rien"), "\\~");
 }
 
 } // namespace
