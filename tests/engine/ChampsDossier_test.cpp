@@ -146,18 +146,12 @@ TEST_F(Champs, Organismes) {
     EnrOrganisme& o = m.ctx.etat.Organismes[3];
     o.nom = "Chambre d'agriculture   ";
     o.sigle = "CA14";
-    o.rue = "Rue";
-    o.ville = "Caen";
-    o.tel = "02";
     o.fax = "03";
     m.ctx.etat.Organismes[13].nom = "Treize";
     m.ctx.etat.Organismes[1].nom = "Un";
     Verifier({
         {"ORGANOM3", "Chambre d'agriculture"},
         {"orgaSigle3", "CA14"},
-        {"OrgaRue3", "Rue"},
-        {"ORGAVILLE3", "Caen"},
-        {"ORGATEL3", "02"},
         {"ORGAFAX3", "03"},
         {"ORGANOM13", "Treize"},
         {"ORGANOM1", "Un"},

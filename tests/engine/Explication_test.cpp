@@ -85,11 +85,7 @@ TEST_F(Explications, TableauxSansCalcul) {
     EXPECT_NE(Dernier().texte.find("le graphique \"Mon graph\"."), Texte::npos);
 }
 
-TEST_F(Explications, DatesEtDonnees) {
-    m.ctx.etat.enrDossier.dateDebut = "01/10/2004";
-    const Explication e = ExpliquerCode(m.ctx, "an4Fin1");
-    EXPECT_EQ(e.valeur, "2005");
-    EXPECT_NE(e.phrase.find("l'année de fin d'exercice 1 sur 4 chiffres."), Texte::npos);
+TEST_F(Explications, DateEtDonnee) {
     ExpliquerCode(m.ctx, "date(3)");
     EXPECT_EQ(Dernier().texte, "#mrl(date(3))# est le code pour afficher une date fixe ou mise à "
                                "jour au moment de la création du document résultat." +
