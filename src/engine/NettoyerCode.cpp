@@ -83,6 +83,35 @@ constexpr std::string_view kRetraits[] = {"\\sect",
                                           "d\\s5\\lotusoutlinelevel0",
                                           "\\lotusoutlinelevel0"};
 
+constexpr std::string_view kSignets[] = {"kmkstartDDE_LINK", "bkmkendDDE_LINK", "kmkendDDE_LINK"};
+
+bool SignetDans(std::string_view texte) {
+    for (auto mot : kSignets)
+        if (texte.find(mot) != std::string_view::npos) return true;
+    return false;
+}
+
+// Bookmark words lose their digits one at a time, then themselves; a "kmk" left over goes
+// alone, the first one each time, and the words are looked for again.
+void RetirerSignets(Texte& code) {
+    while (true) {
+        bool retire = false;
+        for (auto mot : kSignets)
+            if (!retire && RetirerMotRtf(code, mot) == 1) retire = true;
+        if (retire) continue;
+        auto n = code.find("kmk");
+        if (n == Texte::npos) return;
+        // No word is left: removing a "kmk" can only make one across the join, so only the
+        // join is looked at until one appears.
+        while (n != Texte::npos) {
+            code.erase(n, 3);
+            const std::size_t debut = n >= 16 ? n - 16 : 0;
+            if (SignetDans(std::string_view(code).substr(debut, 32))) break;
+            n = code.find("kmk", n >= 2 ? n - 2 : 0);
+        }
+    }
+}
+
 } // namespace
 
 int RetirerMotRtf(Texte& code, std::string_view mot) {
@@ -100,12 +129,7 @@ void NettoyerCode(Texte& code) {
     RetirerMotsDeMiseEnForme(code);
     for (auto mot : kRetraits) code = RemplacerExact(code, mot, "");
 
-    while (code.find("kmk") != Texte::npos) {
-        if (RetirerMotRtf(code, "kmkstartDDE_LINK") == 1) continue;
-        if (RetirerMotRtf(code, "bkmkendDDE_LINK") == 1) continue;
-        if (RetirerMotRtf(code, "kmkendDDE_LINK") == 1) continue;
-        code.erase(code.find("kmk"), 3);
-    }
+    RetirerSignets(code);
     while (true) {
         const auto n = code.find("endOLE");
         if (n == Texte::npos) break;
