@@ -35,7 +35,8 @@ int JoursDuMois(int mois, int annee) {
 int JourDeSemaine(int jour, int mois, int annee) {
     static constexpr int t[] = {0, 3, 2, 5, 0, 3, 5, 1, 4, 6, 2, 4};
     if (mois < 3) annee -= 1;
-    return (annee + annee / 4 - annee / 100 + annee / 400 + t[mois - 1] + jour) % 7;
+    const int n = (annee + annee / 4 - annee / 100 + annee / 400 + t[mois - 1] + jour) % 7;
+    return n < 0 ? n + 7 : n;
 }
 
 Texte Deux(int n) {
