@@ -80,7 +80,7 @@ Issue Tableau(Texte valeur, const Texte& mots) {
     return i;
 }
 
-Issue TableauModele(Contexte& ctx, const Texte& code, bool expliquer) {
+Issue CodeTableauModele(Contexte& ctx, const Texte& code, bool expliquer) {
     Texte mots = "pluri-annuel.";
     if (CommencePar(code, "tabd1")) {
         mots = "affichant une seule colonne de valeurs sur 1 dossier.";
@@ -204,7 +204,7 @@ Issue CodeAPrefixe(Contexte& ctx, const Texte& code, bool expliquer, const Insta
     if (CommencePar(code, "actlibr"))
         return Tableau(!expliquer && ext ? ext->TableauActivites(ctx, code) : Texte(),
                        "des activités libres animales.");
-    if (CommencePar(code, "tab")) return TableauModele(ctx, code, expliquer);
+    if (CommencePar(code, "tab")) return CodeTableauModele(ctx, code, expliquer);
     if (CommencePar(code, "gph(")) return Graphique(ctx, code);
     if (CommencePar(code, "formule:")) return Formule(ctx, code);
     if (code.find('-') != Texte::npos) return Donnee(ctx, code);

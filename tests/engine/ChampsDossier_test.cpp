@@ -19,7 +19,7 @@ protected:
         EXPECT_TRUE(m.utilisateur.messages.empty());
     }
     MoteurDeTest m;
-    DossierTemporaire dossier;
+    DossierMoteur dossier;
 };
 
 TEST_F(Champs, SocieteAvecAssocies) {

@@ -32,7 +32,7 @@ protected:
                                        Serie("VL2:0", "Vaches", {}));
     }
     MoteurDeTest m;
-    DossierTemporaire dossier;
+    DossierMoteur dossier;
 };
 
 TEST_F(Donnees, ValeursEtDecimales) {

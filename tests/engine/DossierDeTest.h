@@ -3,39 +3,26 @@
 
 #include "data/EnrDossier.h"
 #include "shell/Contexte.h"
+#include "support/DossierTemporaire.h"
 #include "utils/OutilsFichiers.h"
 
-#include <filesystem>
-#include <fstream>
-#include <random>
 #include <string>
 
 namespace verdane::test {
 
-class DossierTemporaire {
+// A folder that holds one dossier, "DOSS".
+class DossierMoteur {
 public:
-    DossierTemporaire() {
-        std::random_device alea;
-        racine_ = std::filesystem::temp_directory_path() /
-                  ("verdane_moteur_" + std::to_string(alea()) + std::to_string(alea()));
-        std::filesystem::create_directories(racine_ / "DOSS");
-    }
-    ~DossierTemporaire() {
-        std::error_code e;
-        std::filesystem::remove_all(racine_, e);
-    }
-    DossierTemporaire(const DossierTemporaire&) = delete;
-    DossierTemporaire& operator=(const DossierTemporaire&) = delete;
+    DossierMoteur() { dossier_.Ecrire("DOSS/.garde", ""); }
 
     // The folder that holds dossiers, with its final separator.
-    Texte Racine() const { return CheminTexte(racine_) + kSeparateur; }
+    Texte Racine() const { return dossier_.Chemin(); }
     // The dossier's own folder "DOSS", with its final separator.
     Texte Dossier() const { return Racine() + "DOSS" + kSeparateur; }
 
     // Writes the record file, reads it back into the context as the current dossier.
     void Installer(Contexte& ctx, const EnrDossier& enr) const {
-        const std::string octets = EcrireEnrDossier(enr);
-        Ecrire("DOSS", octets);
+        Ecrire("DOSS", EcrireEnrDossier(enr));
         ctx.etat.RepDossier[0] = Racine();
         ctx.etat.NomDossier[0] = "DOSS";
         ctx.etat.enrDossier = LireEnrDossier(*LireFichier(Dossier() + "DOSS"));
@@ -45,12 +32,11 @@ public:
 
     // A file of the dossier folder.
     void Ecrire(const Texte& nom, const std::string& octets) const {
-        std::ofstream f(racine_ / "DOSS" / nom, std::ios::binary);
-        f << octets;
+        dossier_.Ecrire("DOSS/" + nom, octets);
     }
 
 private:
-    std::filesystem::path racine_;
+    DossierTemporaire dossier_;
 };
 
 // A société of three partners, the second a young farmer, study from 01/10/2004 over 6 years.

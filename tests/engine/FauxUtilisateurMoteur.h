@@ -5,16 +5,13 @@
 #include "engine/AnalyserCodes.h"
 #include "engine/ExtensionsCode.h"
 #include "shell/Contexte.h"
+#include "support/FauxUtilisateur.h"
 
 #include <vector>
 
 namespace verdane::test {
 
-class FauxUtilisateurMoteur : public UtilisateurMuet {
-public:
-    void AfficherMessage(const Message& m) override { messages.push_back(m); }
-    std::vector<Message> messages;
-};
+using FauxUtilisateurMoteur = FauxUtilisateur;
 
 class FaussesExtensions : public ExtensionsCode {
 public:

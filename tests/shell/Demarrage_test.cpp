@@ -28,7 +28,8 @@ TEST_F(Installation, LeTravailIniCreeLeResultat) {
     EXPECT_EQ(
         Executer("INI \"" + d / "a b/m.vdm" + "\" \"" + d / "a b/r.rtf" + "\" \"\" remplacer"),
         kSortieFaite);
-    EXPECT_EQ(d.Lire("a b/r.rtf"), "{\\rtf1 Bonjour #mrl(nomDossier)#\r\n}\r\n");
+    // The job blanks the current dossier: the field is a non-breaking space.
+    EXPECT_EQ(d.Lire("a b/r.rtf"), "{\\rtf1 Bonjour \\~\r\n}\r\n");
     // The same job with "#esp#" for the blanks, in lower case.
     EXPECT_EQ(Executer("ini " + Remplacer(d / "a b/m.vdm", " ", "#esp#") + " " +
                        Remplacer(d / "a b/r2.rtf", " ", "#ESP#") + " X REMPLACER"),
