@@ -9,13 +9,24 @@ sortie=${VERDANE_DEMO:-/tmp/verdane-demo}
 mkdir -p "$sortie"
 export MARLO_HOME="$PWD/samples/marlo"
 modeles="$MARLO_HOME/Verdane/ModlDocs"
-for modele in "$modeles"/*.vdm; do
-    nom=$(basename "$modele" .vdm)
-    build/verdane INI "$modele" "$sortie/$nom.rtf" "" remplacer
-    echo "-> $sortie/$nom.rtf"
+dossiers="$MARLO_HOME/Dossiers"
+# The job INI of the command line makes a document with no dossier (it blanks the current one);
+# verdane-lot makes a named dossier's documents.
+build/verdane INI "$modeles/lettre.vdm" "$sortie/lettre-sans-dossier.rtf" "" remplacer
+echo "-> $sortie/lettre-sans-dossier.rtf"
+for dossier in DUPONT TILLEULS; do
+    for modele in "$modeles"/*.vdm; do
+        nom=$(basename "$modele" .vdm)-$dossier
+        build/verdane-lot --dossier "$dossiers/$dossier" --modele "$modele" \
+            --resultat "$sortie/$nom.rtf" --remplacer --rapport "$sortie/$nom.json"
+        echo "-> $sortie/$nom.rtf"
+    done
 done
 if command -v soffice >/dev/null 2>&1; then
-    soffice --headless --convert-to txt:Text --outdir "$sortie" "$sortie"/*.rtf >/dev/null 2>&1 || true
+    profil=$(mktemp -d)
+    timeout 300 soffice -env:UserInstallation="file://$profil" --headless --convert-to txt:Text \
+        --outdir "$sortie" "$sortie"/*.rtf >/dev/null 2>&1 || true
+    rm -rf "$profil"
     for t in "$sortie"/*.txt; do
         [ -f "$t" ] || continue
         echo "===== $(basename "$t") ====="

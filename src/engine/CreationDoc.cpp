@@ -58,12 +58,12 @@ struct Morceau {
     std::string_view Reste() const { return std::string_view(p).substr(o); }
 };
 
-// Step of a hidden paragraph: the first "\par" loses "ar" and the character behind it, so the
-// paragraph end hidden by a false condition goes away.
+// Step of a hidden paragraph: the first "\par" becomes the meaningless word "\p", so the
+// paragraph end hidden by a false condition goes away. The character behind it stays: it is
+// the word's delimiter, and taking it would glue "\p" to the next word and lose that word.
 void MangerParagraphe(Morceau& m) {
     const auto n = m.p.find("\\par", m.o);
-    if (n == Texte::npos) return;
-    m.p.erase(n + 2, std::min<std::size_t>(3, m.p.size() - (n + 2)));
+    if (n != Texte::npos) m.p.erase(n + 2, 2);
 }
 
 // The document information group: codes in it aren't interpreted. Returns false when the

@@ -27,6 +27,10 @@ bool FinitParMotDeControle(std::string_view texte) {
     return barres % 2 == 1;
 }
 
+// A line that starts with one of these needs no blank to end the control word before it. Any
+// other start does, "#" included: a code there becomes text that may begin with a letter.
+bool DelimiteDeja(char c) { return c == ' ' || c == '\\' || c == '{' || c == '}'; }
+
 int CompterMarques(std::string_view ligne) {
     int n = 0;
     for (auto p = TrouverSansCasse(ligne, "#mrl("); p != std::string_view::npos;
@@ -57,8 +61,7 @@ ModeleEnMorceaux DecouperModele(std::string_view contenu) {
             modele.Morceaux.push_back(std::move(courant));
             courant.clear();
         }
-        if (!ligne.empty() && (EstLettre(ligne.front()) || EstChiffre(ligne.front())) &&
-            FinitParMotDeControle(courant))
+        if (!ligne.empty() && !DelimiteDeja(ligne.front()) && FinitParMotDeControle(courant))
             courant += ' ';
         courant.append(ligne);
         modele.NbCodes += CompterMarques(ligne);

@@ -16,8 +16,8 @@ struct ModeleEnMorceaux {
 
 // Cuts the content of a model into pieces: lines joined with their line ends dropped, a new
 // piece begun when the current one holds more than 1000 characters, a line never split. A
-// line end that delimited a control word ("\b" at the end of a line, a letter at the start of
-// the next) is kept as one blank, which delimits it the same way.
+// line end that delimited a control word ("\b" at the end of a line, "old" or a code at the
+// start of the next) is kept as one blank, which delimits it the same way.
 ModeleEnMorceaux DecouperModele(std::string_view contenu);
 
 } // namespace verdane

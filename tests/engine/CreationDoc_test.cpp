@@ -98,12 +98,13 @@ TEST_F(CreationDoc, LesInformationsDuDocumentNeSontPasInterpretees) {
 
 TEST_F(CreationDoc, UneConditionFausseMangeLaFinDeParagrapheSuivante) {
     EXPECT_EQ(Creer("A#mrl(faux)#texte cache\\par B\\par C"),
-              "A[faux]texte cache\\pB\\par C");
+              "A[faux]texte cache\\p B\\par C");
     // At the end of a piece, the next piece loses its first paragraph end.
     EXPECT_EQ(Creer(Ligne('x', 995) + "#mrl(faux)#\r\nsuite\\par fin\\par"),
-              std::string(995, 'x') + "[faux]suite\\pfin\\par");
-    // "\par" at the very end of the text loses its "ar".
+              std::string(995, 'x') + "[faux]suite\\p fin\\par");
+    // "\par" at the very end of the text loses its "ar"; "\pard" becomes "\pd", unknown too.
     EXPECT_EQ(Creer("#mrl(faux)#a\\par"), "[faux]a\\p");
+    EXPECT_EQ(Creer("#mrl(faux)#a\\pard\\plain b"), "[faux]a\\pd\\plain b");
 }
 
 TEST_F(CreationDoc, UnSignetDeWordDansLaMarqueEstRepare) {

@@ -37,6 +37,10 @@ TEST(LectureModele, UneFinDeLigneQuiDelimitaitUnMotDeControleResteUnBlanc) {
     EXPECT_EQ(DecouperModele("\\par \nTexte").Morceaux[0], "\\par Texte");
     EXPECT_EQ(DecouperModele("\\\\b\ntexte").Morceaux[0], "\\\\btexte"); // an escaped backslash
     EXPECT_EQ(DecouperModele("\\'e9\nt").Morceaux[0], "\\'e9t");
+    // A code at the start of a line will be text: "\par" must not swallow it.
+    EXPECT_EQ(DecouperModele("\\par\n#mrl(x)#").Morceaux[0], "\\par #mrl(x)#");
+    EXPECT_EQ(DecouperModele("\\par\n- tiret").Morceaux[0], "\\par - tiret");
+    EXPECT_EQ(DecouperModele("\\par\n{\\b x}").Morceaux[0], "\\par{\\b x}");
 }
 
 } // namespace verdane

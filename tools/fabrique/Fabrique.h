@@ -18,10 +18,13 @@ std::string FabriquerDon(const std::vector<Section>& description);
 // The parameter file: [organisme 0], [organisme 1] ... with nom, rue, ville, sigle, tel, fax,
 // logo.
 std::string FabriquerParametres(const std::vector<Section>& description);
+// A series catalogue (.CFG): one section a record as for a series file, with code=, libelle=,
+// dossier1=, dossier2=, and queue= (non-zero in the head record [1] for a catalogue shown).
+std::string FabriquerCatalogue(const std::vector<Section>& description);
 // The options file: keys named as the options, RepDossier0 ... NomDossier5 for the dossiers.
 std::string FabriquerOptions(const std::vector<Section>& description);
 
-// By the kind of a description file (the extension before ".txt": dossier, don, par, svg):
+// By the kind of a description file (the extension before ".txt": dossier, don, cfg, par, svg):
 // the name of the file to write and its bytes; nothing for a file that is copied as it is.
 struct Fabrication {
     std::string nom;

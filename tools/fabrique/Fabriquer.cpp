@@ -17,6 +17,7 @@ std::optional<Fabrication> Fabriquer(const std::string& nomDescription, std::str
     if (genre == "dossier")
         return Fabrication{souche.substr(0, point), FabriquerDossier(description)};
     if (genre == "don") return Fabrication{souche, FabriquerDon(description)};
+    if (genre == "cfg") return Fabrication{souche, FabriquerCatalogue(description)};
     if (genre == "par") return Fabrication{souche, FabriquerParametres(description)};
     if (genre == "svg") return Fabrication{souche, FabriquerOptions(description)};
     return std::nullopt;
