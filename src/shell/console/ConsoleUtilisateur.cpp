@@ -83,11 +83,11 @@ Reponse ConsoleUtilisateur::Question(const Texte& texte, const Texte& titre, Bou
     if (imposee_) {
         prise = *imposee_;
         if (boutons == Boutons::OkAnnuler) prise = prise == Reponse::Oui ? Reponse::Ok : Reponse::Annuler;
-        s += std::string("-> ") + NomReponse(prise) + " (réponse imposée)\n";
+        s += TexteConsole(Texte("-> ") + NomReponse(prise) + " (réponse imposée)\n");
         Ecrire(s);
     } else if (!entreeTerminal_) {
-        s += std::string("-> ") + NomReponse(parDefaut) +
-             " (réponse par défaut : aucun terminal pour répondre)\n";
+        s += TexteConsole(Texte("-> ") + NomReponse(parDefaut) +
+                          " (réponse par défaut : aucun terminal pour répondre)\n");
         Ecrire(s);
     } else {
         for (;;) {
