@@ -1,9 +1,10 @@
 #!/usr/bin/env bash
 # Installs what the project needs on a fresh Debian machine (root or sudo). Safe to run again:
-# packages already present are left alone.
+# packages already present are left alone. Further package names may be given as arguments.
 set -euo pipefail
 
 paquets=(cmake ninja-build g++ libgtest-dev libgmock-dev libbenchmark-dev clang-format)
+paquets+=("$@")
 manquants=()
 for p in "${paquets[@]}"; do
     dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || manquants+=("$p")
