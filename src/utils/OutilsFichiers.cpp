@@ -52,6 +52,12 @@ Texte AjouterBarre(std::string_view chemin) {
 
 fs::path CheminSysteme(std::string_view chemin) {
     if (chemin.empty()) return {};
+    // The spelling given is the usual case: one look at the disk settles it.
+    std::string direct = Cp1252VersUtf8(chemin);
+    for (auto& c : direct)
+        if (c == '\\') c = '/';
+    std::error_code ec;
+    if (fs::exists(direct, ec)) return direct;
     const auto parties = Parties(chemin);
     fs::path resultat;
     std::size_t i = 0;
@@ -64,7 +70,6 @@ fs::path CheminSysteme(std::string_view chemin) {
         const Texte& partie = parties[i];
         if (partie.empty() || partie == ".") continue;
         const fs::path exact = resultat / Cp1252VersUtf8(partie);
-        std::error_code ec;
         if (!resoudre || partie == ".." || fs::exists(exact, ec)) {
             resultat = exact;
             continue;
