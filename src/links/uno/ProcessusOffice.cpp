@@ -1,0 +1,148 @@
+#include "links/uno/ProcessusOffice.h"
+
+#include <cerrno>
+#include <chrono>
+#include <csignal>
+#include <cstdlib>
+#include <cstring>
+#include <fcntl.h>
+#include <filesystem>
+#include <spawn.h>
+#include <sstream>
+#include <sys/wait.h>
+#include <system_error>
+#include <thread>
+#include <unistd.h>
+
+extern char** environ;
+
+namespace fs = std::filesystem;
+
+namespace verdane {
+
+namespace {
+
+bool Executable(const fs::path& p) {
+    std::error_code ec;
+    return fs::is_regular_file(p, ec) && ::access(p.c_str(), X_OK) == 0;
+}
+
+std::string NouveauProfil() {
+    std::error_code ec;
+    fs::path base = fs::temp_directory_path(ec);
+    if (ec) base = "/tmp";
+    std::string modele = (base / "verdane-office-XXXXXX").string();
+    if (!::mkdtemp(modele.data())) return {};
+    return modele;
+}
+
+} // namespace
+
+std::string TrouverExecutableOffice(const std::string& prefere) {
+    if (!prefere.empty() && Executable(prefere)) return prefere;
+#ifdef VERDANE_LO_PROGRAMME
+    if (Executable(fs::path(VERDANE_LO_PROGRAMME) / "soffice"))
+        return (fs::path(VERDANE_LO_PROGRAMME) / "soffice").string();
+#endif
+    if (const char* path = std::getenv("PATH")) {
+        std::istringstream dossiers(path);
+        std::string d;
+        while (std::getline(dossiers, d, ':'))
+            for (const char* nom : {"soffice", "libreoffice"})
+                if (!d.empty() && Executable(fs::path(d) / nom))
+                    return (fs::path(d) / nom).string();
+    }
+    return {};
+}
+
+bool ProcessusOffice::Demarrer(const std::string& executable, const std::string& tube,
+                               bool sansEcran, std::string& erreur) {
+    Arreter(0);
+    profil_ = NouveauProfil();
+    if (profil_.empty()) {
+        erreur = "Impossible de créer le profil de LibreOffice dans le dossier temporaire.";
+        return false;
+    }
+    std::vector<std::string> args{executable,
+                                  "-env:UserInstallation=file://" + profil_,
+                                  "--accept=pipe,name=" + tube + ";urp;StarOffice.ComponentContext",
+                                  "--norestore",
+                                  "--nologo",
+                                  "--nodefault",
+                                  "--nolockcheck"};
+    if (sansEcran) {
+        args.emplace_back("--headless");
+        args.emplace_back("--invisible");
+    }
+    std::vector<char*> argv;
+    for (auto& a : args) argv.push_back(a.data());
+    argv.push_back(nullptr);
+
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    posix_spawn_file_actions_addopen(&actions, 0, "/dev/null", O_RDONLY, 0);
+    posix_spawn_file_actions_addopen(&actions, 1, "/dev/null", O_WRONLY, 0);
+    posix_spawn_file_actions_addopen(&actions, 2, "/dev/null", O_WRONLY, 0);
+    posix_spawnattr_t attributs;
+    posix_spawnattr_init(&attributs);
+    posix_spawnattr_setflags(&attributs, POSIX_SPAWN_SETPGROUP);
+    posix_spawnattr_setpgroup(&attributs, 0);
+    const int r =
+        ::posix_spawn(&pid_, executable.c_str(), &actions, &attributs, argv.data(), environ);
+    posix_spawn_file_actions_destroy(&actions);
+    posix_spawnattr_destroy(&attributs);
+    if (r != 0) {
+        pid_ = 0;
+        erreur = "Impossible de lancer " + executable + " : " + std::strerror(r);
+        std::error_code ec;
+        fs::remove_all(profil_, ec);
+        profil_.clear();
+        return false;
+    }
+    return true;
+}
+
+bool ProcessusOffice::Vivant() {
+    if (pid_ <= 0) return false;
+    int statut = 0;
+    const pid_t r = ::waitpid(pid_, &statut, WNOHANG);
+    if (r == 0) return true;
+    if (r == pid_ || (r < 0 && errno == ECHILD)) {
+        // The launcher is gone; what it started must not outlive it.
+        ::kill(-pid_, SIGKILL);
+        pid_ = -pid_; // the group stays known for Arreter
+    }
+    return false;
+}
+
+void ProcessusOffice::Arreter(int delaiMs) {
+    using namespace std::chrono;
+    if (pid_ > 0) {
+        const auto fin = steady_clock::now() + milliseconds(delaiMs);
+        while (Vivant() && steady_clock::now() < fin) std::this_thread::sleep_for(milliseconds(50));
+        if (pid_ > 0) {
+            ::kill(-pid_, SIGTERM);
+            const auto finTerm = steady_clock::now() + seconds(3);
+            while (Vivant() && steady_clock::now() < finTerm)
+                std::this_thread::sleep_for(milliseconds(50));
+        }
+        if (pid_ > 0) {
+            ::kill(-pid_, SIGKILL);
+            int statut = 0;
+            ::waitpid(pid_, &statut, 0);
+            pid_ = -pid_;
+        }
+    }
+    if (pid_ < 0) {
+        // Whatever the launcher left in its group.
+        ::kill(pid_, SIGKILL);
+        pid_ = 0;
+    }
+    if (!profil_.empty()) {
+        std::error_code ec;
+        fs::remove_all(profil_, ec);
+        profil_.clear();
+    }
+}
+
+} // namespace verdane

@@ -1,0 +1,39 @@
+#pragma once
+// An office process that this program started: in a process group of its own (the office's
+// launcher starts the office proper as its child), with a profile folder of its own, ended
+// and cleaned up on demand or at destruction.
+
+#include <string>
+#include <sys/types.h>
+#include <vector>
+
+namespace verdane {
+
+class ProcessusOffice {
+public:
+    ProcessusOffice() = default;
+    ~ProcessusOffice() { Arreter(0); }
+    ProcessusOffice(const ProcessusOffice&) = delete;
+    ProcessusOffice& operator=(const ProcessusOffice&) = delete;
+
+    // Starts `executable` listening on the pipe `tube`. False with the reason in `erreur`.
+    bool Demarrer(const std::string& executable, const std::string& tube, bool sansEcran,
+                  std::string& erreur);
+    // True while the process runs.
+    bool Vivant();
+    // Waits up to `delaiMs` for the process to end by itself, then ends its group (TERM, then
+    // KILL), reaps it and removes its profile.
+    void Arreter(int delaiMs);
+    pid_t Pid() const { return pid_; }
+
+private:
+    pid_t pid_ = 0;
+    std::string profil_;
+};
+
+// The executable of the office: `prefere` when it is a program of this system, else the
+// office's folder known at build time, else "soffice" and "libreoffice" in PATH. Empty when
+// none is found.
+std::string TrouverExecutableOffice(const std::string& prefere);
+
+} // namespace verdane
