@@ -4,6 +4,7 @@
 #include "links/Automation.h"
 #include "links/BureauOffice.h"
 #include "shell/PortUtilisateur.h"
+#include "utils/EcritureSure.h"
 
 #include <deque>
 #include <functional>
@@ -32,6 +33,38 @@ public:
     std::vector<std::string> boites;
     std::vector<std::string> questions;
     std::deque<Reponse> reponses;
+};
+
+// A word processor that writes what it is asked to save, and tells what it did.
+class PiloteEnregistreur : public PiloteEditeur {
+public:
+    bool LierApplication() override { return true; }
+    bool NouveauDocument() override { return true; }
+    bool OuvrirDocument(const Texte& chemin) override {
+        journal.push_back("ouvrir " + chemin);
+        return true;
+    }
+    bool OuvrirDocumentCache(const Texte& chemin) override {
+        journal.push_back("ouvrir cache " + chemin);
+        return true;
+    }
+    bool SauverDocument(int, bool) override { return true; }
+    bool FermerDocument(int reponse) override {
+        journal.push_back("fermer " + std::to_string(reponse));
+        return true;
+    }
+    bool InsererTexte(const Texte&, const Texte&, int) override { return true; }
+    Texte LireSelection() override { return {}; }
+    void EnregistrerSous(const Texte& chemin, FormatDocument format, bool fermeture) override {
+        if (refuse) throw ErreurEditeur("Accès refusé");
+        journal.push_back("enregistrer " + chemin + " " + std::to_string(static_cast<int>(format)) +
+                          (fermeture ? " fermer" : ""));
+        EcrireFichierSur(chemin, "{\\rtf1 }");
+    }
+    bool Disponible() const override { return disponible; }
+    std::vector<std::string> journal;
+    bool refuse = false;
+    bool disponible = true;
 };
 
 // An office whose document state tests set; every call is written to `journal`.

@@ -12,32 +12,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// A word processor that writes what it is asked to save, and tells what it did.
-class PiloteEnregistreur : public PiloteEditeur {
-public:
-    bool LierApplication() override { return true; }
-    bool NouveauDocument() override { return true; }
-    bool OuvrirDocument(const Texte& chemin) override {
-        journal.push_back("ouvrir " + chemin);
-        return true;
-    }
-    bool SauverDocument(int, bool) override { return true; }
-    bool FermerDocument(int reponse) override {
-        journal.push_back("fermer " + std::to_string(reponse));
-        return true;
-    }
-    bool InsererTexte(const Texte&, const Texte&, int) override { return true; }
-    Texte LireSelection() override { return {}; }
-    void EnregistrerSous(const Texte& chemin, FormatDocument format, bool fermeture) override {
-        if (refuse) throw ErreurEditeur("Accès refusé");
-        journal.push_back("enregistrer " + chemin + " " + std::to_string(static_cast<int>(format)) +
-                          (fermeture ? " fermer" : ""));
-        std::ofstream(CheminSysteme(chemin)) << "{\\rtf1 }";
-    }
-    std::vector<std::string> journal;
-    bool refuse = false;
-};
-
 class Dialogue : public DialogueFichiers {
 public:
     Texte CheminSauvegarde(const Texte& dossier, const Texte& filtre) override {
