@@ -28,6 +28,7 @@
 #include <rtl/ustring.hxx>
 
 #include <chrono>
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -157,8 +158,11 @@ struct BureauLibreOffice::Impl {
                      "introuvable).";
             return false;
         }
+        // Private to this object: the process, the object's address and its count of starts.
         const Texte tube = "verdane_" + std::to_string(::getuid()) + "_" +
-                           std::to_string(::getpid()) + "_" + std::to_string(++compteurTubes);
+                           std::to_string(::getpid()) + "_" +
+                           std::to_string(reinterpret_cast<std::uintptr_t>(this)) + "_" +
+                           std::to_string(++compteurTubes);
         if (!processus.Demarrer(executable, tube, SansEcran(options), erreur)) return false;
         ++demarrages;
         using namespace std::chrono;

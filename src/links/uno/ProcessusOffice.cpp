@@ -134,8 +134,10 @@ void ProcessusOffice::Arreter(int delaiMs) {
         }
     }
     if (pid_ < 0) {
-        // Whatever the launcher left in its group.
-        ::kill(pid_, SIGKILL);
+        // Whatever the launcher left in its group, until the group is gone.
+        const auto fin = steady_clock::now() + seconds(5);
+        while (::kill(pid_, SIGKILL) == 0 && steady_clock::now() < fin)
+            std::this_thread::sleep_for(milliseconds(20));
         pid_ = 0;
     }
     if (!profil_.empty()) {
