@@ -7,8 +7,11 @@
 #include <cstring>
 #include <fcntl.h>
 #include <filesystem>
+#include <set>
 #include <spawn.h>
 #include <sstream>
+#include <sys/socket.h>
+#include <sys/un.h>
 #include <sys/wait.h>
 #include <system_error>
 #include <thread>
@@ -36,6 +39,35 @@ std::string NouveauProfil() {
     return modele;
 }
 
+std::string PrefixeSockets() {
+    return "OSL_PIPE_" + std::to_string(::getuid()) + "_";
+}
+
+// The sockets by which the offices of this user find their running instance.
+std::set<std::string> SocketsInstance() {
+    std::set<std::string> sockets;
+    const std::string prefixe = PrefixeSockets() + "SingleOfficeIPC_";
+    std::error_code ec;
+    for (fs::directory_iterator it("/tmp", ec), fin; !ec && it != fin; it.increment(ec))
+        if (it->path().filename().string().rfind(prefixe, 0) == 0)
+            sockets.insert(it->path().string());
+    return sockets;
+}
+
+// True when no process listens on the socket any more.
+bool Abandonne(const std::string& chemin) {
+    sockaddr_un adresse{};
+    adresse.sun_family = AF_UNIX;
+    if (chemin.size() >= sizeof(adresse.sun_path)) return false;
+    std::memcpy(adresse.sun_path, chemin.c_str(), chemin.size() + 1);
+    const int s = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    if (s < 0) return false;
+    const int r = ::connect(s, reinterpret_cast<const sockaddr*>(&adresse), sizeof(adresse));
+    const int erreur = errno;
+    ::close(s);
+    return r != 0 && erreur == ECONNREFUSED;
+}
+
 } // namespace
 
 std::string TrouverExecutableOffice(const std::string& prefere) {
@@ -58,6 +90,8 @@ std::string TrouverExecutableOffice(const std::string& prefere) {
 bool ProcessusOffice::Demarrer(const std::string& executable, const std::string& tube,
                                bool sansEcran, std::string& erreur) {
     Arreter(0);
+    tube_ = tube;
+    avant_ = SocketsInstance();
     profil_ = NouveauProfil();
     if (profil_.empty()) {
         erreur = "Impossible de créer le profil de LibreOffice dans le dossier temporaire.";
@@ -144,6 +178,17 @@ void ProcessusOffice::Arreter(int delaiMs) {
         std::error_code ec;
         fs::remove_all(profil_, ec);
         profil_.clear();
+    }
+    if (!tube_.empty()) {
+        // An office killed outright leaves the sockets of its pipes behind: the one it was
+        // started with, and the one it made for its profile, if nobody listens there now.
+        std::error_code ec;
+        const fs::path notre = fs::path("/tmp") / (PrefixeSockets() + tube_);
+        if (fs::is_socket(notre, ec)) fs::remove(notre, ec);
+        for (const auto& socket : SocketsInstance())
+            if (!avant_.count(socket) && Abandonne(socket)) fs::remove(socket, ec);
+        tube_.clear();
+        avant_.clear();
     }
 }
 

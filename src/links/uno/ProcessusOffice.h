@@ -3,6 +3,7 @@
 // launcher starts the office proper as its child), with a profile folder of its own, ended
 // and cleaned up on demand or at destruction.
 
+#include <set>
 #include <string>
 #include <sys/types.h>
 #include <vector>
@@ -29,6 +30,8 @@ public:
 private:
     pid_t pid_ = 0;
     std::string profil_;
+    std::string tube_;
+    std::set<std::string> avant_; // instance sockets that were there before the start
 };
 
 // The executable of the office: `prefere` when it is a program of this system, else the
