@@ -138,6 +138,12 @@ EditeursTrouves DetecterEditeurs(Contexte& ctx, SuiviRecherche& suivi,
     return t;
 }
 
+Texte CheminExecutableChoisi(const Texte& chemin) {
+    if (chemin.find('\\') == Texte::npos || chemin.size() < 4 || chemin[chemin.size() - 4] == '.')
+        return chemin;
+    return chemin.substr(0, chemin.size() - 4) + ".exe";
+}
+
 void ValiderChoixEditeur(Contexte& ctx, const Texte& chemin) {
     if (Rogner(chemin).empty())
         ctx.utilisateur.Boite("Le chemin de l'éditeur choisi est vide !", kTitreChoix,

@@ -50,6 +50,11 @@ struct EditeursTrouves {
 EditeursTrouves DetecterEditeurs(Contexte& ctx, SuiviRecherche& suivi,
                                  const ParametresRecherche& parametres);
 
+// A path picked by hand in the file dialog: a Windows path whose fourth character from the
+// end isn't "." ends in ".exe" in place of its last four; a path of this system, whose programs
+// carry no extension, stands as it is.
+Texte CheminExecutableChoisi(const Texte& chemin);
+
 // The choice of the dialog stored as `CheminEditeur` (trimmed); an empty one is told and still
 // stored. A word processor that this system can't drive says so. The caller writes the options
 // file.

@@ -84,6 +84,13 @@ TEST_F(RechercheTest, AnnulationEtLimite) {
     EXPECT_EQ(patient.valeurs.size(), 1u);
 }
 
+TEST(ChoixEditeur, CheminChoisiALaMain) {
+    EXPECT_EQ(CheminExecutableChoisi("C:\\Office\\WINWORD.EXE"), "C:\\Office\\WINWORD.EXE");
+    EXPECT_EQ(CheminExecutableChoisi("C:\\Office\\winword_exe"), "C:\\Office\\winword.exe");
+    EXPECT_EQ(CheminExecutableChoisi("/usr/bin/soffice"), "/usr/bin/soffice");
+    EXPECT_EQ(CheminExecutableChoisi("C:"), "C:");
+}
+
 TEST(ChoixEditeur, CheminVideSigneEtWordIndisponibleLeDit) {
     FauxUtilisateur u;
     Contexte ctx(u);

@@ -118,6 +118,9 @@ struct BureauLibreOffice::Impl {
     ProcessusOffice processus;
     int demarrages = 0;
     int compteurTubes = 0;
+    bool sansEcran = true;
+    // Documents shown on the screen of the office started here.
+    int montres = 0;
 
     bool Joindre(const Texte& tube) {
         try {
@@ -163,7 +166,9 @@ struct BureauLibreOffice::Impl {
                            std::to_string(::getpid()) + "_" +
                            std::to_string(reinterpret_cast<std::uintptr_t>(this)) + "_" +
                            std::to_string(++compteurTubes);
-        if (!processus.Demarrer(executable, tube, SansEcran(options), erreur)) return false;
+        sansEcran = SansEcran(options);
+        montres = 0;
+        if (!processus.Demarrer(executable, tube, sansEcran, erreur)) return false;
         ++demarrages;
         using namespace std::chrono;
         const auto fin = steady_clock::now() + milliseconds(options.delaiDemarrageMs);
@@ -185,6 +190,17 @@ struct BureauLibreOffice::Impl {
         if (processus.Pid() == 0) {
             Oublier();
             return;
+        }
+        // An office on screen that shows the user a document is theirs now: it stays.
+        if (montres > 0 && Vivant()) {
+            try {
+                if (bureau->getFrames()->getCount() > 0) {
+                    Oublier();
+                    processus.Detacher();
+                    return;
+                }
+            } catch (const uno::Exception&) {
+            }
         }
         if (bureau.is()) {
             try {
@@ -210,6 +226,14 @@ BureauLibreOffice::BureauLibreOffice(OptionsOffice options) : impl_(std::make_un
 
 BureauLibreOffice::~BureauLibreOffice() {
     impl_->Arreter();
+    Reference<lang::XComponent> local(impl_->local, UNO_QUERY);
+    impl_->local.clear();
+    if (local.is()) {
+        try {
+            local->dispose();
+        } catch (const uno::Exception&) {
+        }
+    }
 }
 
 void BureauLibreOffice::Terminer() {
@@ -264,6 +288,7 @@ void BureauLibreOffice::ChargerURL(const Texte& url, bool cache) {
         if (!composant.is())
             throw ErreurEditeur("LibreOffice ne peut pas ouvrir le document " + url + ".");
         impl_->document = composant;
+        if (!cache && !impl_->sansEcran) ++impl_->montres;
     } catch (const uno::Exception& e) {
         Echouer(e, ("Ouverture de " + url).c_str());
     }

@@ -1,8 +1,9 @@
 #pragma once
 // A LibreOffice reached through UNO: the one that listens on the shared pipe when the user
 // runs one, else one started for this program on a private pipe, headless when this system
-// has no screen. The office started here is ended when this object goes, or by Terminer; one
-// that died between two operations is started again at the next.
+// has no screen. The office started here is ended when this object goes, or by Terminer, but
+// for one on screen that still shows the user a document; one that died between two
+// operations is started again at the next.
 
 #include "links/BureauOffice.h"
 

@@ -26,6 +26,13 @@ public:
     // KILL), reaps it and removes its profile.
     void Arreter(int delaiMs);
     pid_t Pid() const { return pid_; }
+    // Lets the process run on by itself: it is no longer this object's to end.
+    void Detacher() {
+        pid_ = 0;
+        profil_.clear();
+        tube_.clear();
+        avant_.clear();
+    }
 
 private:
     pid_t pid_ = 0;

@@ -3,6 +3,7 @@
 #include "links/FinDocument.h"
 #include "links/Liens.h"
 #include "links/uno/LiensSysteme.h"
+#include "links/uno/ProcessusOffice.h"
 #include "utils/Chaines.h"
 #include "utils/OutilsFichiers.h"
 
@@ -178,6 +179,24 @@ TEST_F(LibreOfficeTest, ErreursDitesClairement) {
     Texte erreur;
     EXPECT_FALSE(faux.Connecter(erreur));
     EXPECT_NE(erreur.find("s'est arrêté au démarrage"), Texte::npos) << erreur;
+}
+
+} // namespace
+} // namespace verdane
+
+namespace verdane {
+namespace {
+
+TEST(UrlPourOffice, AccentsEnUtf8EtFinsDeCheminEchappees) {
+    EXPECT_EQ(UrlPourOffice("file:///tmp/lettre%20été#1?.rtf"),
+              "file:///tmp/lettre%20%C3%A9t%C3%A9%231%3F.rtf");
+    EXPECT_EQ(UrlPourOffice("private:factory/swriter"), "private:factory/swriter");
+}
+
+TEST(TrouverExecutableOffice, PrefereLeProgrammeDonneSIlExiste) {
+    EXPECT_EQ(TrouverExecutableOffice("/bin/sh"), "/bin/sh");
+    const std::string systeme = TrouverExecutableOffice("/nulle/part/soffice");
+    EXPECT_NE(systeme.find("soffice"), std::string::npos) << systeme;
 }
 
 } // namespace
