@@ -1,5 +1,6 @@
 #include "links/PiloteOpenOffice.h"
 
+#include "links/FinDocument.h"
 #include "links/Liens.h"
 #include "utils/OutilsFichiers.h"
 
@@ -19,6 +20,11 @@ void RendreModifiable(const Texte& chemin) {
     std::error_code ec;
     std::filesystem::permissions(CheminSysteme(chemin), std::filesystem::perms::owner_write,
                                  std::filesystem::perm_options::add, ec);
+}
+
+// The URL of a path of this system, made absolute first: the office has no current folder.
+Texte UrlDe(const Texte& chemin) {
+    return CheminVersURL(CheminTexte(CheminSysteme(CheminComplet(chemin))));
 }
 
 } // namespace
@@ -53,12 +59,12 @@ bool PiloteOpenOffice::NouveauDocument() {
 
 bool PiloteOpenOffice::OuvrirDocument(const Texte& chemin) {
     RendreModifiable(chemin);
-    return Charger(CheminVersURL(CheminTexte(CheminSysteme(chemin))), false);
+    return Charger(UrlDe(chemin), false);
 }
 
 bool PiloteOpenOffice::OuvrirDocumentCache(const Texte& chemin) {
     RendreModifiable(chemin);
-    return Charger(CheminVersURL(CheminTexte(CheminSysteme(chemin))), true);
+    return Charger(UrlDe(chemin), true);
 }
 
 bool PiloteOpenOffice::SauverDocument(int forcer, bool confirmer) {
@@ -180,8 +186,7 @@ void PiloteOpenOffice::EnregistrerSous(const Texte& chemin, FormatDocument forma
     if (!bureau_.Connecter(erreur)) throw ErreurEditeur(erreur);
     if (bureau_.NombreCadres() <= 0 || !bureau_.PrendreDocumentCourant())
         throw ErreurEditeur("Aucun document n'est ouvert.");
-    bureau_.StockerSous(CheminVersURL(CheminTexte(CheminSysteme(chemin))),
-                        Filtre(format, fermeture), format == FormatDocument::Pdf);
+    bureau_.StockerSous(UrlDe(chemin), Filtre(format, fermeture), format == FormatDocument::Pdf);
     if (fermeture) FermerDocument(7);
 }
 
