@@ -133,7 +133,52 @@ bool ProcessusOffice::Demarrer(const std::string& executable, const std::string&
         profil_.clear();
         return false;
     }
+    Garder();
     return true;
+}
+
+// A guardian process ends the office's group if this program dies without ending it (a crash,
+// a kill): it waits on a pipe whose writing end only this program holds. A byte read means the
+// office was ended here and nothing is left to do; the end of the pipe means this program is
+// gone. Between fork and exit it calls only async-signal-safe functions.
+void ProcessusOffice::Garder() {
+    int tube[2];
+    if (::pipe2(tube, O_CLOEXEC) != 0) return;
+    const pid_t groupe = pid_;
+    const pid_t gardien = ::fork();
+    if (gardien == 0) {
+        ::close(tube[1]);
+        char octet = 0;
+        ssize_t lu;
+        do {
+            lu = ::read(tube[0], &octet, 1);
+        } while (lu < 0 && errno == EINTR);
+        if (lu == 0) {
+            ::kill(-groupe, SIGTERM);
+            const timespec attente{3, 0};
+            ::nanosleep(&attente, nullptr);
+            ::kill(-groupe, SIGKILL);
+        }
+        ::_exit(0);
+    }
+    ::close(tube[0]);
+    if (gardien < 0) {
+        ::close(tube[1]);
+        return;
+    }
+    gardien_ = gardien;
+    tubeGardien_ = tube[1];
+}
+
+void ProcessusOffice::Liberer() {
+    if (gardien_ <= 0) return;
+    const char octet = 1;
+    [[maybe_unused]] const ssize_t ecrit = ::write(tubeGardien_, &octet, 1);
+    ::close(tubeGardien_);
+    int statut = 0;
+    ::waitpid(gardien_, &statut, 0);
+    gardien_ = 0;
+    tubeGardien_ = -1;
 }
 
 bool ProcessusOffice::Vivant() {
@@ -167,6 +212,7 @@ void ProcessusOffice::Arreter(int delaiMs) {
             pid_ = -pid_;
         }
     }
+    Liberer();
     if (pid_ < 0) {
         // Whatever the launcher left in its group, until the group is gone.
         const auto fin = steady_clock::now() + seconds(5);

@@ -28,6 +28,7 @@ public:
     pid_t Pid() const { return pid_; }
     // Lets the process run on by itself: it is no longer this object's to end.
     void Detacher() {
+        Liberer();
         pid_ = 0;
         profil_.clear();
         tube_.clear();
@@ -35,7 +36,12 @@ public:
     }
 
 private:
+    void Garder();
+    void Liberer();
+
     pid_t pid_ = 0;
+    pid_t gardien_ = 0;
+    int tubeGardien_ = -1;
     std::string profil_;
     std::string tube_;
     std::set<std::string> avant_; // instance sockets that were there before the start

@@ -15,6 +15,8 @@
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
+#include <poll.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 namespace verdane {
@@ -186,6 +188,34 @@ TEST_F(LibreOfficeTest, ErreursDitesClairement) {
 
 namespace verdane {
 namespace {
+
+// A program killed outright doesn't leave its office behind.
+TEST(Gardien, OfficeFiniQuandLeProgrammeMeurt) {
+    int tube[2];
+    ASSERT_EQ(::pipe(tube), 0);
+    const pid_t enfant = ::fork();
+    if (enfant == 0) {
+        ::close(tube[0]);
+        BureauLibreOffice bureau(OptionsOffice{"", "", true, 60000});
+        Texte erreur;
+        const pid_t office = bureau.Connecter(erreur) ? bureau.PidOffice() : 0;
+        [[maybe_unused]] auto n = ::write(tube[1], &office, sizeof office);
+        ::pause();
+        ::_exit(0);
+    }
+    ::close(tube[1]);
+    pollfd attente{tube[0], POLLIN, 0};
+    pid_t office = 0;
+    if (::poll(&attente, 1, 90000) == 1) [[maybe_unused]]
+        auto n = ::read(tube[0], &office, sizeof office);
+    ::close(tube[0]);
+    ::kill(enfant, SIGKILL);
+    int statut = 0;
+    ::waitpid(enfant, &statut, 0);
+    ASSERT_GT(office, 0);
+    for (int i = 0; i < 150 && !GroupeTermine(office); ++i) ::usleep(100000);
+    EXPECT_TRUE(GroupeTermine(office));
+}
 
 TEST(UrlPourOffice, AccentsEnUtf8EtFinsDeCheminEchappees) {
     EXPECT_EQ(UrlPourOffice("file:///tmp/lettre%20été#1?.rtf"),
