@@ -17,6 +17,7 @@
 #include <fstream>
 #include <poll.h>
 #include <sys/wait.h>
+#include <thread>
 #include <unistd.h>
 
 namespace verdane {
@@ -164,6 +165,31 @@ TEST_F(LibreOfficeTest, OfficeTueEntreDeuxOperationsRedemarre) {
     EXPECT_EQ(liens->Bureau().Demarrages(), 2);
     EXPECT_TRUE(GroupeTermine(premier));
     ASSERT_TRUE(liens->Office().InsererTexte("encore là", "", 0));
+}
+
+TEST_F(LibreOfficeTest, OfficeTueAuMilieuDUnLot) {
+    const char* rtf = "{\\rtf1\\ansi Lot\\par}";
+    auto convertir = [&](int i) {
+        const std::string nom = "lot" + std::to_string(i) + ".doc";
+        std::ofstream(dossier / nom) << rtf;
+        TerminerDocument(ctx, "", Chemin(nom), false, true);
+        return Commande("file -b --mime-type '" + Systeme(nom) + "'");
+    };
+    ASSERT_EQ(convertir(0), "application/msword\n");
+    const pid_t office = liens->Bureau().PidOffice();
+    std::thread tueur([office] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(300));
+        ::kill(-office, SIGKILL);
+    });
+    int restesRtf = 0;
+    for (int i = 1; i <= 8; ++i)
+        if (convertir(i) != "application/msword\n") ++restesRtf;
+    tueur.join();
+    // A document caught by the kill stays RTF, and says so; the next ones are converted.
+    EXPECT_LE(restesRtf, static_cast<int>(u.messages.size()));
+    EXPECT_EQ(convertir(9), "application/msword\n");
+    EXPECT_EQ(liens->Bureau().Demarrages(), 2);
+    EXPECT_TRUE(GroupeTermine(office));
 }
 
 TEST_F(LibreOfficeTest, ErreursDitesClairement) {
