@@ -1,6 +1,7 @@
 #include "links/uno/BureauLibreOffice.h"
 
 #include "links/uno/ProcessusOffice.h"
+#include "links/uno/Veilleur.h"
 #include "utils/Chaines.h"
 
 #include <com/sun/star/beans/PropertyValue.hpp>
@@ -53,8 +54,12 @@ Texte DeUno(const rtl::OUString& s) {
     return Texte(o.getStr(), static_cast<std::size_t>(o.getLength()));
 }
 
-[[noreturn]] void Echouer(const uno::Exception& e, const char* operation) {
+[[noreturn]] void Echouer(const uno::Exception& e, const char* operation,
+                          const Veilleur& veilleur) {
     Texte description = DeUno(e.Message);
+    if (veilleur.Expire())
+        description = "LibreOffice ne répondait plus : il a été arrêté après " +
+                      std::to_string(veilleur.DelaiMs() / 1000) + " s.";
     if (description.empty()) description = "erreur sans description";
     throw ErreurEditeur(Texte(operation) + " : " + description);
 }
@@ -110,12 +115,15 @@ Texte UrlPourOffice(const Texte& url) {
 }
 
 struct BureauLibreOffice::Impl {
+    explicit Impl(OptionsOffice o) : options(std::move(o)) {}
+
     OptionsOffice options;
     Reference<uno::XComponentContext> local;
     Reference<uno::XComponentContext> distant;
     Reference<frame::XDesktop2> bureau;
     Reference<lang::XComponent> document;
     ProcessusOffice processus;
+    Veilleur veilleur{options.delaiOperationMs};
     int demarrages = 0;
     int compteurTubes = 0;
     bool sansEcran = true;
@@ -140,6 +148,7 @@ struct BureauLibreOffice::Impl {
     bool Vivant() {
         if (!bureau.is()) return false;
         if (processus.Pid() != 0 && !processus.Vivant()) return false;
+        Veilleur::Operation operation(veilleur);
         try {
             bureau->getFrames()->getCount();
             return true;
@@ -169,6 +178,7 @@ struct BureauLibreOffice::Impl {
         sansEcran = SansEcran(options);
         montres = 0;
         if (!processus.Demarrer(executable, tube, sansEcran, erreur)) return false;
+        veilleur.Surveiller(processus.Pid());
         ++demarrages;
         using namespace std::chrono;
         const auto fin = steady_clock::now() + milliseconds(options.delaiDemarrageMs);
@@ -203,6 +213,7 @@ struct BureauLibreOffice::Impl {
             }
         }
         if (bureau.is()) {
+            Veilleur::Operation operation(veilleur);
             try {
                 bureau->terminate();
             } catch (const uno::Exception&) {
@@ -220,9 +231,8 @@ struct BureauLibreOffice::Impl {
     }
 };
 
-BureauLibreOffice::BureauLibreOffice(OptionsOffice options) : impl_(std::make_unique<Impl>()) {
-    impl_->options = std::move(options);
-}
+BureauLibreOffice::BureauLibreOffice(OptionsOffice options)
+    : impl_(std::make_unique<Impl>(std::move(options))) {}
 
 BureauLibreOffice::~BureauLibreOffice() {
     impl_->Arreter();
@@ -269,15 +279,17 @@ bool BureauLibreOffice::Connecter(Texte& erreur) {
 }
 
 int BureauLibreOffice::NombreCadres() {
+    Veilleur::Operation operation(impl_->veilleur);
     try {
         if (!impl_->bureau.is()) return 0;
         return impl_->bureau->getFrames()->getCount();
     } catch (const uno::Exception& e) {
-        Echouer(e, "Cadres de LibreOffice");
+        Echouer(e, "Cadres de LibreOffice", impl_->veilleur);
     }
 }
 
 void BureauLibreOffice::ChargerURL(const Texte& url, bool cache) {
+    Veilleur::Operation operation(impl_->veilleur);
     try {
         if (!impl_->bureau.is()) throw ErreurEditeur("LibreOffice n'est pas joint.");
         uno::Sequence<beans::PropertyValue> arguments(1);
@@ -290,11 +302,12 @@ void BureauLibreOffice::ChargerURL(const Texte& url, bool cache) {
         impl_->document = composant;
         if (!cache && !impl_->sansEcran) ++impl_->montres;
     } catch (const uno::Exception& e) {
-        Echouer(e, ("Ouverture de " + url).c_str());
+        Echouer(e, ("Ouverture de " + url).c_str(), impl_->veilleur);
     }
 }
 
 bool BureauLibreOffice::PrendreDocumentCourant() {
+    Veilleur::Operation operation(impl_->veilleur);
     try {
         if (!impl_->bureau.is()) return false;
         Reference<lang::XComponent> courant = impl_->bureau->getCurrentComponent();
@@ -327,38 +340,43 @@ bool BureauLibreOffice::PrendreDocumentCourant() {
 }
 
 bool BureauLibreOffice::LectureSeule() {
+    Veilleur::Operation operation(impl_->veilleur);
     try {
         return Reference<frame::XStorable>(impl_->Modele(), UNO_QUERY_THROW)->isReadonly();
     } catch (const uno::Exception& e) {
-        Echouer(e, "Lecture seule");
+        Echouer(e, "Lecture seule", impl_->veilleur);
     }
 }
 
 bool BureauLibreOffice::AEmplacement() {
+    Veilleur::Operation operation(impl_->veilleur);
     try {
         return Reference<frame::XStorable>(impl_->Modele(), UNO_QUERY_THROW)->hasLocation();
     } catch (const uno::Exception& e) {
-        Echouer(e, "Emplacement du document");
+        Echouer(e, "Emplacement du document", impl_->veilleur);
     }
 }
 
 bool BureauLibreOffice::Modifie() {
+    Veilleur::Operation operation(impl_->veilleur);
     try {
         return Reference<util::XModifiable>(impl_->Modele(), UNO_QUERY_THROW)->isModified();
     } catch (const uno::Exception& e) {
-        Echouer(e, "Modification du document");
+        Echouer(e, "Modification du document", impl_->veilleur);
     }
 }
 
 void BureauLibreOffice::Stocker() {
+    Veilleur::Operation operation(impl_->veilleur);
     try {
         Reference<frame::XStorable>(impl_->Modele(), UNO_QUERY_THROW)->store();
     } catch (const uno::Exception& e) {
-        Echouer(e, "Enregistrement du document");
+        Echouer(e, "Enregistrement du document", impl_->veilleur);
     }
 }
 
 void BureauLibreOffice::StockerSous(const Texte& url, const Texte& filtre, bool exporter) {
+    Veilleur::Operation operation(impl_->veilleur);
     try {
         Reference<frame::XStorable> stockage(impl_->Modele(), UNO_QUERY_THROW);
         uno::Sequence<beans::PropertyValue> arguments(2);
@@ -371,11 +389,12 @@ void BureauLibreOffice::StockerSous(const Texte& url, const Texte& filtre, bool 
         else
             stockage->storeAsURL(VersUno(UrlPourOffice(url)), arguments);
     } catch (const uno::Exception& e) {
-        Echouer(e, ("Enregistrement sous " + url + " (" + filtre + ")").c_str());
+        Echouer(e, ("Enregistrement sous " + url + " (" + filtre + ")").c_str(), impl_->veilleur);
     }
 }
 
 void BureauLibreOffice::FermerCadreActif() {
+    Veilleur::Operation operation(impl_->veilleur);
     try {
         Reference<frame::XFrame> cadre;
         Reference<frame::XModel> modele(impl_->document, UNO_QUERY);
@@ -390,11 +409,12 @@ void BureauLibreOffice::FermerCadreActif() {
         else
             cadre->dispose();
     } catch (const uno::Exception& e) {
-        Echouer(e, "Fermeture du document");
+        Echouer(e, "Fermeture du document", impl_->veilleur);
     }
 }
 
 void BureauLibreOffice::InsererTexte(const Texte& texte, const Texte& police, int taille) {
+    Veilleur::Operation operation(impl_->veilleur);
     try {
         Reference<text::XTextViewCursorSupplier> fournisseur(
             impl_->Modele()->getCurrentController(), UNO_QUERY_THROW);
@@ -407,11 +427,12 @@ void BureauLibreOffice::InsererTexte(const Texte& texte, const Texte& police, in
         Reference<text::XTextRange> position(curseur, UNO_QUERY_THROW);
         curseur->getText()->insertString(position, VersUno(texte), false);
     } catch (const uno::Exception& e) {
-        Echouer(e, "Insertion dans le document");
+        Echouer(e, "Insertion dans le document", impl_->veilleur);
     }
 }
 
 void BureauLibreOffice::SelectionnerTout() {
+    Veilleur::Operation operation(impl_->veilleur);
     try {
         Reference<text::XTextViewCursorSupplier> fournisseur(
             impl_->Modele()->getCurrentController(), UNO_QUERY_THROW);
@@ -419,17 +440,18 @@ void BureauLibreOffice::SelectionnerTout() {
         curseur->gotoStart(false);
         curseur->gotoEnd(true);
     } catch (const uno::Exception& e) {
-        Echouer(e, "Sélection du texte");
+        Echouer(e, "Sélection du texte", impl_->veilleur);
     }
 }
 
 Texte BureauLibreOffice::Selection() {
+    Veilleur::Operation operation(impl_->veilleur);
     try {
         Reference<text::XTextViewCursorSupplier> fournisseur(
             impl_->Modele()->getCurrentController(), UNO_QUERY_THROW);
         return DeUno(fournisseur->getViewCursor()->getString());
     } catch (const uno::Exception& e) {
-        Echouer(e, "Lecture de la sélection");
+        Echouer(e, "Lecture de la sélection", impl_->veilleur);
     }
 }
 

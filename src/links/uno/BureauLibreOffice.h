@@ -22,6 +22,9 @@ struct OptionsOffice {
     bool sansEcran = false;
     // How long an office may take to answer after its start.
     int delaiDemarrageMs = 60000;
+    // How long one operation may last before the office started here is taken for hung and
+    // killed (the next operation starts another).
+    int delaiOperationMs = 180000;
 };
 
 class BureauLibreOffice : public BureauOffice {

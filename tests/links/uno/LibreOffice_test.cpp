@@ -192,6 +192,20 @@ TEST_F(LibreOfficeTest, OfficeTueAuMilieuDUnLot) {
     EXPECT_TRUE(GroupeTermine(office));
 }
 
+TEST_F(LibreOfficeTest, OfficeFigeArreteEtRemplace) {
+    liens.reset();
+    liens = std::make_unique<LiensSysteme>(ctx, OptionsOffice{"", "", true, 60000, 3000});
+    ASSERT_TRUE(liens->Office().NouveauDocument());
+    const pid_t fige = liens->Bureau().PidOffice();
+    ::kill(-fige, SIGSTOP);
+    const auto debut = std::chrono::steady_clock::now();
+    liens->Office().LireSelection();
+    EXPECT_LT(std::chrono::steady_clock::now() - debut, std::chrono::seconds(60));
+    EXPECT_EQ(liens->Bureau().Demarrages(), 2) << "the hung office replaced";
+    EXPECT_TRUE(GroupeTermine(fige));
+    ASSERT_TRUE(liens->Office().NouveauDocument());
+}
+
 TEST_F(LibreOfficeTest, ErreursDitesClairement) {
     EXPECT_FALSE(liens->Office().OuvrirDocument(Chemin("absent.rtf")));
     ASSERT_EQ(u.messages.size(), 1u);
