@@ -1,0 +1,51 @@
+#pragma once
+// What the word-processor link does at the end of a creation or an update, and the conversion
+// of a document of the library: each a step the creation driver or a dialog calls in turn.
+
+#include "shell/Contexte.h"
+
+#include <optional>
+
+namespace verdane {
+
+// The word processor that converts documents: the linked one when this system can drive it,
+// else LibreOffice when it is there; null when none can. `editeur` receives its number.
+PiloteEditeur* PiloteConversion(Contexte& ctx, Editeur& editeur);
+
+// The option "ConvertirViaOO": the result is opened in OpenOffice and saved beside itself as
+// ".doc". With OpenOffice linked the document stays open there and `sansOuverture` becomes
+// true; with another word processor it is closed.
+void ConvertirViaOO(Contexte& ctx, const Texte& resultat, bool& sansOuverture);
+
+// True when the result must be saved again in its own format: an update, or a result whose
+// name doesn't end in ".rtf".
+bool DoitResauver(bool miseAJour, const Texte& resultat);
+
+// The save of the result in the format its name tells (".doc", ".odt", ".docx", ".pdf"...).
+// `source` is the file written (in an update of a ".doc", its RTF copy), `cible` the document
+// as the user named it; `affiche` tells that `source` is open in the linked word processor.
+// True when saved.
+bool ResauverResultat(Contexte& ctx, const Texte& source, const Texte& cible, bool affiche);
+
+// A result named ".doc": the RTF file of the same stem is deleted.
+void SupprimerCopieRtf(const Texte& resultat);
+
+// The end steps in their order: ConvertirViaOO when the option is on, the showing of the
+// document unless `sansOuverture`, the save in the result's own format, the deletion of the
+// RTF copy of a ".doc". `modele` is the file written in an update (its RTF copy for a ".doc").
+void TerminerDocument(Contexte& ctx, const Texte& modele, const Texte& resultat, bool miseAJour,
+                      bool sansOuverture);
+
+// Before the update of a document: a ".doc" is first converted to an RTF copy beside it,
+// after the user agrees. Gives the path to read and write (the document itself when it isn't a
+// ".doc", the copy otherwise), or nothing when the update is not to go on.
+std::optional<Texte> PreparerMiseAJour(Contexte& ctx, const Texte& document);
+
+// The conversion of a document of the library to "rtf", "doc", "lwp" (and "odt", "docx",
+// "pdf"): asked first, saved beside it under the new extension. True when converted.
+bool ConvertirDocument(Contexte& ctx, const Texte& chemin, const Texte& format);
+
+// The path made absolute (a word processor needs the folder): relative to the current folder.
+Texte CheminComplet(const Texte& chemin);
+
+} // namespace verdane

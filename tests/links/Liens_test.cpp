@@ -1,0 +1,178 @@
+#include "links/Faux.h"
+#include "links/Liens.h"
+#include "utils/OutilsFichiers.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+
+namespace verdane::essai {
+namespace {
+
+namespace fs = std::filesystem;
+
+class Dialogue : public DialogueFichiers {
+public:
+    Texte CheminSauvegarde(const Texte& dossier, const Texte& filtre) override {
+        demandes.push_back(dossier + " " + filtre);
+        return reponse;
+    }
+    Texte reponse;
+    std::vector<std::string> demandes;
+};
+
+class SauverSousTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        dossier = fs::temp_directory_path() / ("verdane-liens-" + std::to_string(::getpid()));
+        fs::create_directories(dossier);
+        for (auto e : {Editeur::Word, Editeur::WordPro, Editeur::OpenOffice})
+            ctx.pilotes[static_cast<std::size_t>(e)] = &pilote;
+        pilote.PoserDialogue(&dialogue);
+    }
+    void TearDown() override { fs::remove_all(dossier); }
+    Texte Chemin(const std::string& nom) { return CheminTexte(dossier / nom); }
+
+    FauxUtilisateur u;
+    Contexte ctx{u};
+    PiloteEnregistreur pilote;
+    Dialogue dialogue;
+    fs::path dossier;
+};
+
+TEST(EditeurCourant, NomDuProgrammeEnMinusculesQuelQueSoitLeSysteme) {
+    FauxUtilisateur u;
+    Contexte ctx(u);
+    const std::pair<const char*, const char*> cas[] = {
+        {"C:\\Program Files\\Microsoft Office\\OFFICE11\\WINWORD.EXE", "winword.exe"},
+        {"C:\\lotus\\wordpro\\WordPro.exe  ", "wordpro.exe"},
+        {"C:\\Program Files\\OpenOffice.org 3\\program\\soffice.exe", "soffice.exe"},
+        {"/usr/bin/soffice", "soffice.exe"},
+        {"/usr/bin/libreoffice", "soffice.exe"},
+        {"/opt/libreoffice7.6/program/soffice.bin", "soffice.exe"},
+        {"/usr/local/bin/libreoffice7.6", "soffice.exe"},
+        {"/usr/bin/libreoffice-writer", "libreoffice-writer"},
+        {"/usr/bin/gedit", "gedit"},
+        {"", ""}};
+    for (const auto& [chemin, nom] : cas) {
+        ctx.etat.options.CheminEditeur = chemin;
+        EXPECT_EQ(EditeurCourant(ctx.etat), nom) << chemin;
+    }
+    ctx.etat.options.CheminEditeur = "/usr/bin/gedit";
+    EXPECT_EQ(EditeurLie(ctx.etat), Editeur::Aucun);
+}
+
+TEST(NomEditeurAffiche, NomsConnusEtAutres) {
+    EXPECT_EQ(NomEditeurAffiche(""), "Aucun");
+    EXPECT_EQ(NomEditeurAffiche("C:\\Office\\WINWORD.EXE"), "Microsoft Word");
+    EXPECT_EQ(NomEditeurAffiche("C:\\lotus\\wordpro.exe"), "Lotus Word Pro");
+    EXPECT_EQ(NomEditeurAffiche("C:\\OpenOffice\\program\\soffice.exe"), "Sun OpenOffice");
+    EXPECT_EQ(NomEditeurAffiche("/usr/bin/soffice"), "Sun OpenOffice");
+    EXPECT_EQ(NomEditeurAffiche("C:\\Outils\\NOTEPAD.EXE"), "Notepad");
+    EXPECT_EQ(NomEditeurAffiche("/usr/bin/abiword"), "Abiword");
+}
+
+TEST(CheminVersURL, BlancsEtSeparateursSeulement) {
+    EXPECT_EQ(CheminVersURL("C:\\Mes documents\\r.doc"), "file:///C|/Mes%20documents/r.doc");
+    EXPECT_EQ(CheminVersURL("/tmp/a b/r#1.rtf"), "file:///tmp/a%20b/r#1.rtf");
+}
+
+TEST(FormatDuChemin, TroisDernieresLettres) {
+    EXPECT_EQ(FormatDuChemin("x.RTF"), FormatDocument::Rtf);
+    EXPECT_EQ(FormatDuChemin("x.Doc"), FormatDocument::Doc);
+    EXPECT_EQ(FormatDuChemin("x.docx"), FormatDocument::Docx);
+    EXPECT_EQ(FormatDuChemin("x.lwp"), FormatDocument::Lwp);
+    EXPECT_EQ(FormatDuChemin("x.txt"), FormatDocument::Autre);
+    EXPECT_EQ(FormatDuChemin("x"), FormatDocument::Autre);
+}
+
+TEST(OuvrirDansEditeur, SansTraitementDeTexteLieLeDit) {
+    FauxUtilisateur u;
+    Contexte ctx(u);
+    ctx.etat.options.CheminEditeur = "/usr/bin/gedit";
+    OuvrirDansEditeur(ctx, "/tmp/r.rtf");
+    ASSERT_EQ(u.messages.size(), 1u);
+    EXPECT_EQ(u.messages[0].texte, "Aucun traitement de texte n'est actuellement lié à Verdane !");
+    EXPECT_EQ(u.messages[0].titre, "Erreur détectée :  cliquez Fermer pour continuer");
+}
+
+TEST_F(SauverSousTest, UnModeleEstSauveEnRtfPuisRenommeEnVdm) {
+    std::ofstream(dossier / "lettre.vdm") << "ancien";
+    ASSERT_TRUE(SauverSous(ctx, false, Editeur::OpenOffice, Chemin("lettre.VDM"), true));
+    EXPECT_FALSE(fs::exists(dossier / "lettre.rtf"));
+    EXPECT_EQ(*LireFichier(Chemin("lettre.vdm")), "{\\rtf1 }");
+    const std::vector<std::string> attendu = {"enregistrer " + Chemin("lettre.rtf") + " 0",
+                                              "fermer 7", "ouvrir " + Chemin("lettre.vdm")};
+    EXPECT_EQ(pilote.journal, attendu);
+    EXPECT_TRUE(u.questions.empty()) << "RTF is no change of format";
+}
+
+TEST_F(SauverSousTest, ConfirmationDuChangementDeFormat) {
+    u.reponses = {Reponse::Non};
+    EXPECT_FALSE(SauverSous(ctx, false, Editeur::Word, Chemin("r.doc"), true));
+    EXPECT_EQ(u.questions,
+              std::vector<std::string>{
+                  "Confirmer la sauvegarde au format Microsoft Word | Sauvegarde au format DOC"});
+    EXPECT_EQ(u.boites, std::vector<std::string>{"Sauvegarde annulée | "});
+    EXPECT_TRUE(pilote.journal.empty());
+
+    // Closing, or not asked to confirm: no question.
+    u.questions.clear();
+    EXPECT_TRUE(SauverSous(ctx, true, Editeur::OpenOffice, Chemin("r.doc"), true));
+    EXPECT_TRUE(SauverSous(ctx, false, Editeur::OpenOffice, Chemin("r.doc"), false));
+    EXPECT_TRUE(u.questions.empty());
+
+    // Word Pro asks only for its own format.
+    EXPECT_TRUE(SauverSous(ctx, false, Editeur::WordPro, Chemin("r.doc"), true));
+    u.reponses = {Reponse::Oui};
+    EXPECT_TRUE(SauverSous(ctx, false, Editeur::WordPro, Chemin("r.lwp"), true));
+    EXPECT_EQ(u.questions, std::vector<std::string>{"Confirmer la sauvegarde au format Lotus Word "
+                                                    "Pro | Sauvegarde au format LWP"});
+}
+
+TEST_F(SauverSousTest, LwpRefuseHorsDeWordPro) {
+    for (auto e : {Editeur::Word, Editeur::OpenOffice})
+        for (bool fermeture : {false, true})
+            EXPECT_FALSE(SauverSous(ctx, fermeture, e, Chemin("r.lwp"), false));
+    EXPECT_TRUE(pilote.journal.empty());
+    ASSERT_EQ(u.messages.size(), 4u);
+    EXPECT_EQ(u.messages[0].titre, "Sauvegarde impossible dans le format demandé");
+    EXPECT_EQ(u.messages[0].texte, "Pour pouvoir sauvegarder au format LWP, Verdane doit être lié "
+                                   "à l'éditeur de texte Lotus Word Pro.");
+}
+
+TEST_F(SauverSousTest, CheminVideDialogueEtCheminSansDossier) {
+    ctx.etat.options.RepDocuments = "/docs/";
+    EXPECT_FALSE(SauverSous(ctx, false, Editeur::OpenOffice, "", false));
+    ASSERT_EQ(dialogue.demandes.size(), 1u);
+    EXPECT_EQ(dialogue.demandes[0], "/docs/ Modèle document Verdane (*.vdm)|*.vdm|Document Rich "
+                                    "Text Format (*.rtf)|*.rtf");
+    EXPECT_TRUE(pilote.journal.empty()) << "a cancelled dialog leaves the document as it is";
+
+    ctx.etat.options.CheminEditeur = "C:\\Lotus\\WORDPRO.EXE";
+    dialogue.reponse = "r.rtf";
+    EXPECT_FALSE(SauverSous(ctx, false, Editeur::WordPro, "", false));
+    EXPECT_NE(dialogue.demandes[1].find("|Document Lotus Word Pro (*.lwp)|*.lwp"), Texte::npos);
+    ASSERT_EQ(u.messages.size(), 1u);
+    EXPECT_EQ(u.messages[0].texte, "Le chemin du document à sauvegarder est erroné.");
+    EXPECT_EQ(u.messages[0].technique, "Erreur : sauvegarde impossible.");
+}
+
+TEST_F(SauverSousTest, EchecDuTraitementDeTexteDecrit) {
+    pilote.refuse = true;
+    EXPECT_FALSE(SauverSous(ctx, false, Editeur::OpenOffice, Chemin("r.rtf\\"), false));
+    ASSERT_EQ(u.messages.size(), 1u);
+    EXPECT_EQ(u.messages[0].texte, "Erreur du traitement de texte lors de la sauvegarde du "
+                                   "document en cours :\nDescription technique de l'erreur : "
+                                   "Accès refusé");
+}
+
+TEST_F(SauverSousTest, SansPiloteLeDit) {
+    ctx.pilotes = {};
+    EXPECT_FALSE(SauverSous(ctx, false, Editeur::Word, Chemin("r.rtf"), false));
+    ASSERT_EQ(u.messages.size(), 1u);
+}
+
+} // namespace
+} // namespace verdane::essai
