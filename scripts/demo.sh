@@ -4,6 +4,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 scripts/setup.sh
+scripts/setup-libreoffice.sh
 scripts/build.sh build
 sortie=${VERDANE_DEMO:-/tmp/verdane-demo}
 mkdir -p "$sortie"

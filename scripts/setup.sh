@@ -15,5 +15,5 @@ if [ ${#manquants[@]} -gt 0 ]; then
     [ "$(id -u)" -ne 0 ] && sudo_="sudo"
     export DEBIAN_FRONTEND=noninteractive
     $sudo_ apt-get update -qq
-    $sudo_ apt-get install -y -qq "${manquants[@]}"
+    $sudo_ apt-get install -y -qq --no-install-recommends "${manquants[@]}"
 fi

@@ -4,6 +4,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 scripts/setup.sh
+scripts/setup-libreoffice.sh
 scripts/build.sh build
 ctest --test-dir build --output-on-failure -j "$(nproc)"
 scripts/build.sh build-asan -DCMAKE_BUILD_TYPE=Debug -DVERDANE_SANITIZE=ON

@@ -2,7 +2,7 @@
 
 #include "data/ChargerDossier.h"
 #include "engine/LectureModele.h"
-#include "links/Liens.h"
+#include "links/FinDocument.h"
 #include "utils/Chaines.h"
 #include "utils/EcritureSure.h"
 #include "utils/GestFontTable.h"
@@ -225,72 +225,13 @@ void MettreAJour(Contexte& ctx, std::vector<Texte>& morceaux, Sortie& sortie) {
     }
 }
 
-// Update of a Word document: a copy in RTF is made through the word processor first. Returns
-// the path of the copy, or nothing when the update can't go on.
-std::optional<Texte> CopieRtfPourMiseAJour(Contexte& ctx, const Texte& document) {
-    const Texte souche = document.substr(0, document.size() - 4);
-    const auto reponse = ctx.utilisateur.Question(
-        "Pour mettre à jour votre document MS Word, Verdane va devoir créer une copie convertie "
-        "au RTF.\r\nSouhaitez-vous continuer en autorisant la création de " +
-            souche +
-            ".rtf ?\r\n( si un fichier de ce nom existe déjà dans ce répertoire, il sera alors "
-            "perdu ! )",
-        "Verdane utilise le format texte enrichi ( RTF ) !", Boutons::OkAnnuler, Reponse::Ok,
-        Icone::Information);
-    if (reponse != Reponse::Ok) {
-        ctx.utilisateur.Sablier(false);
-        ctx.utilisateur.Boite("Mise à jour annulée par l'utilisateur.", "", Icone::Information);
-        return std::nullopt;
-    }
-    const Editeur editeur = EditeurLie(ctx.etat);
-    PiloteEditeur* pilote = ctx.Pilote(editeur);
-    if (!pilote) {
-        OuvrirDansEditeur(ctx, document); // says that no word processor is linked
-        return std::nullopt;
-    }
-    const Texte copie = souche + ".rtf";
-    pilote->OuvrirDocument(document);
-    SauverSous(ctx, false, editeur, copie, false);
-    pilote->FermerDocument(7);
-    ctx.utilisateur.Boite("Verdane a terminé la conversion au RTF de votre document MS Word.\r\n"
-                          "La mise à jour du document MS Word va pouvoir se faire à partir de "
-                          "la copie RTF.",
-                          "Cliquez OK pour lancer la mise à jour !", Icone::Information);
-    if (!FichierExiste(copie)) return std::nullopt;
-    return copie;
-}
-
-void Terminer(Contexte& ctx, const Texte& modele, const Texte& resultat, bool miseAJour,
-              bool sansOuverture, bool copieDoc) {
-    Etat& e = ctx.etat;
-    if (e.NbCodes > 0) {
-        ctx.utilisateur.PoserJauge(kLargeurJauge, miseAJour
-                                                      ? "        " + std::to_string(e.ChampsMaj) +
-                                                            " champs mis à jour !"
-                                                      : "            Création terminée !");
-        ctx.utilisateur.FermerJauge();
-    }
-    const Editeur editeur = EditeurLie(e);
-    if (e.options.ConvertirViaOO != 0 && ctx.Pilote(Editeur::OpenOffice)) {
-        ctx.Pilote(Editeur::OpenOffice)->OuvrirDocument(resultat);
-        const Texte doc =
-            resultat.size() >= 3 ? resultat.substr(0, resultat.size() - 3) + "doc" : resultat;
-        if (editeur == Editeur::OpenOffice) {
-            SauverSous(ctx, false, Editeur::OpenOffice, doc, false);
-            sansOuverture = true;
-        } else {
-            SauverSous(ctx, true, Editeur::OpenOffice, doc, false);
-        }
-    }
-    const Texte document = miseAJour ? modele : resultat;
-    if (!sansOuverture) AfficherDocument(ctx, document);
-    if ((miseAJour || !FinitParSansCasse(resultat, ".RTF")) && ctx.Pilote(editeur)) {
-        if (sansOuverture) ctx.Pilote(editeur)->OuvrirDocument(document);
-        SauverSous(ctx, sansOuverture, editeur, resultat, false);
-    }
-    // The RTF copy made for the update of a Word document goes away once the document has its
-    // figures back.
-    if (copieDoc) SupprimerFichier(modele);
+void FinirJauge(Contexte& ctx, bool miseAJour) {
+    const Etat& e = ctx.etat;
+    if (e.NbCodes <= 0) return;
+    ctx.utilisateur.PoserJauge(kLargeurJauge, miseAJour ? "        " + std::to_string(e.ChampsMaj) +
+                                                              " champs mis à jour !"
+                                                        : "            Création terminée !");
+    ctx.utilisateur.FermerJauge();
 }
 
 } // namespace
@@ -325,12 +266,14 @@ IssueCreation CreerDocument(Contexte& ctx, const Texte& modeleDemande, const Tex
         if (r != Reponse::Oui) return IssueCreation::Abandonnee;
     }
     ctx.utilisateur.Sablier(true);
-    bool copieDoc = false;
-    if (miseAJour && FinitParSansCasse(modele, ".doc")) {
-        const auto copie = CopieRtfPourMiseAJour(ctx, modele);
-        if (!copie) return IssueCreation::Abandonnee;
-        modele = *copie;
-        copieDoc = true;
+    if (miseAJour) {
+        // A Word document is refreshed through an RTF copy made by the word processor.
+        const auto lu = PreparerMiseAJour(ctx, modele);
+        if (!lu) {
+            ctx.utilisateur.Sablier(false);
+            return IssueCreation::Abandonnee;
+        }
+        modele = *lu;
     }
 
     const auto contenu = LireFichier(modele);
@@ -366,7 +309,8 @@ IssueCreation CreerDocument(Contexte& ctx, const Texte& modeleDemande, const Tex
                                          "L'écriture du document a échoué.", ""});
         return IssueCreation::ResultatImpossible;
     }
-    Terminer(ctx, modele, resultat, miseAJour, sansOuverture, copieDoc);
+    FinirJauge(ctx, miseAJour);
+    TerminerDocument(ctx, modele, resultat, miseAJour, sansOuverture);
     ctx.utilisateur.Sablier(false);
     return IssueCreation::Faite;
 }

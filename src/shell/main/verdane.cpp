@@ -2,6 +2,11 @@
 
 #include "shell/Demarrage.h"
 #include "shell/console/ConsoleUtilisateur.h"
+#ifdef VERDANE_AVEC_UNO
+#include "links/uno/LiensSysteme.h"
+#else
+#include "links/LiensSansOffice.h"
+#endif
 
 #include <cstdlib>
 #include <filesystem>
@@ -23,6 +28,12 @@ int main(int argc, char** argv) {
     using namespace verdane;
     ConsoleUtilisateur console;
     auto ctx = std::make_unique<Contexte>(console);
+    // The word-processor links live as long as the run; the office they start ends with them.
+#ifdef VERDANE_AVEC_UNO
+    LiensSysteme liens(*ctx);
+#else
+    LiensSansOffice liens(*ctx);
+#endif
     Environnement env;
     env.dossierProgramme = Utf8VersCp1252(DossierDuProgramme(argc > 0 ? argv[0] : nullptr));
     if (const char* home = std::getenv("MARLO_HOME")) env.marloHome = Utf8VersCp1252(home);

@@ -2,6 +2,11 @@
 
 #include "shell/Lot.h"
 #include "shell/console/ConsoleUtilisateur.h"
+#ifdef VERDANE_AVEC_UNO
+#include "links/uno/LiensSysteme.h"
+#else
+#include "links/LiensSansOffice.h"
+#endif
 #include "utils/EcritureSure.h"
 
 #include <cstdio>
@@ -32,6 +37,11 @@ int main(int argc, char** argv) {
     console.ImposerReponse(options.reponse);
     UtilisateurEnregistre enregistre(console);
     auto ctx = std::make_unique<Contexte>(enregistre);
+#ifdef VERDANE_AVEC_UNO
+    LiensSysteme liens(*ctx);
+#else
+    LiensSansOffice liens(*ctx);
+#endif
     Environnement env;
     if (const char* home = std::getenv("MARLO_HOME")) env.marloHome = Utf8VersCp1252(home);
 
