@@ -12,6 +12,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -32,6 +33,21 @@ inline std::string FichierDon(const std::vector<EnrDon>& enregistrements) {
     for (const auto& e : enregistrements) octets += EcrireEnrDon(e);
     return octets;
 }
+
+// Records what is said and asked; the choice of dossiers answers through `choix` (not set: no
+// choice).
+class UtilisateurRendu : public test::FauxUtilisateur {
+public:
+    bool ChoisirDossiers(const Texte& titre, const Texte& consigne, int& nombre,
+                         std::vector<DossierCompare>& dossiers) override {
+        demandes.push_back(titre + "|" + consigne);
+        proposes.push_back(nombre);
+        return choix ? choix(nombre, dossiers) : false;
+    }
+    std::function<bool(int&, std::vector<DossierCompare>&)> choix;
+    std::vector<Texte> demandes;
+    std::vector<int> proposes;
+};
 
 class RenduTest : public ::testing::Test {
 protected:
@@ -73,7 +89,7 @@ protected:
     }
 
     test::DossierTemporaire d;
-    test::FauxUtilisateur u;
+    UtilisateurRendu u;
     Contexte ctx;
 };
 

@@ -172,14 +172,15 @@ bool ConsoleUtilisateur::ChoisirDossiers(const Texte& titre, const Texte& consig
                                          std::vector<DossierCompare>& dossiers) {
     std::string s = "[" + TexteConsole(titre) + "]\n" + TexteConsole(consigne) + "\n";
     if (!entreeTerminal_) {
-        s += "Aucun terminal pour choisir : comparaison des dossiers précédents.\n";
+        s += TexteConsole("Aucun terminal pour choisir : comparaison des dossiers précédents.\n");
         for (int k = 1; k <= nombre && k <= static_cast<int>(dossiers.size()); ++k)
             s += "  Dossier " + std::to_string(k) + " : " +
                  TexteConsole(CheminDossier(dossiers[static_cast<std::size_t>(k - 1)])) + "\n";
         Ecrire(s);
         return true;
     }
-    Ecrire(s + "Nombre de dossiers à comparer (1 à 9) [" + std::to_string(nombre) + "] ? ");
+    Ecrire(s + TexteConsole("Nombre de dossiers à comparer (1 à 9) [") + std::to_string(nombre) +
+           "] ? ");
     const auto reponse = LireLigne();
     if (!reponse) return false;
     if (const auto n = EntierStrict(Utf8VersCp1252(*reponse)); n && *n >= 1 && *n <= 9)
