@@ -268,6 +268,7 @@ void PoserValeur(Contexte& ctx, Texte& texte, Texte& cellules, int colonne) {
 
 void AjouterCellules(Contexte& ctx, const Texte& celluleCode, Texte& definitions, Texte& cellules,
                      int& position, bool estLibelle, std::int16_t& modeAnnees, int annexe) {
+    const std::size_t depart = cellules.size(); // the trace is looked for in what is added
     const std::vector<Texte> champs = Decouper(celluleCode);
     Texte texte = champs[0];
     if (Rogner(texte).empty()) texte = " ";
@@ -312,7 +313,8 @@ void AjouterCellules(Contexte& ctx, const Texte& celluleCode, Texte& definitions
     }
 
     // A trace that a model's author leaves in a cell.
-    if (TrouverSansCasse(cellules, "chatXXX") != Texte::npos)
+    const std::size_t recherche = cellules.size() < depart ? 0 : (depart > 6 ? depart - 6 : 0);
+    if (TrouverSansCasse(cellules, "chatXXX", recherche) != Texte::npos)
         ctx.utilisateur.Boite(cellules, "Verdane", Icone::Information);
 }
 

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
 #include <string>
 #include <vector>
 
@@ -237,6 +238,18 @@ TEST_F(RenduTest, CodesMalFormesNeCassentRien) {
         "tabp1([280;120][x][totalC:LG600+LG(NUL-0!A99):0:0])",
     };
     for (const Texte& code : mauvais) GenererTableau(ctx, code);
+
+    // Characters of the code language thrown anywhere, with a fixed seed.
+    std::mt19937 alea(4242);
+    const std::string signes = "[]();#:_@-+*/^LG0123456789adpcrtabserietotalCS\\'";
+    for (int essai = 0; essai < 400; ++essai) {
+        Texte code = complet;
+        for (int k = 0; k < 6; ++k) {
+            const auto i = alea() % code.size();
+            code[i] = signes[alea() % signes.size()];
+        }
+        GenererTableau(ctx, code);
+    }
 
     // 600 lines: the table holds 511.
     std::vector<Texte> lignes(600, L("l", "serie:PROD.DON+PROD-1:0:0"));
