@@ -7,6 +7,7 @@
 #include "tables/EntetesTableau.h"
 #include "tables/Formules.h"
 #include "tables/LignesDomaine.h"
+#include "tables/StyleCellule.h"
 #include "utils/Chaines.h"
 
 #include <algorithm>

@@ -4,7 +4,6 @@
 // cell, each "{...}\cell"), then "\row\pard\plain ". The walker of table models and the
 // domain tables lay their rows with these routines.
 
-#include "tables/StyleCellule.h"
 #include "utils/Texte.h"
 
 #include <cstdint>
@@ -13,6 +12,7 @@
 namespace verdane {
 
 class Contexte;
+struct StyleCellule;
 
 // Right edges never go beyond this (twips), whatever the widths of a model.
 inline constexpr int kPositionMax = 32767;

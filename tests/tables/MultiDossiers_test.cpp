@@ -70,6 +70,27 @@ TEST_F(MultiDossiersTest, ColonnesDeDossiers) {
     EXPECT_EQ(ctx.etat.tableaux.nbDossiersChoisis, 1);
 }
 
+TEST_F(MultiDossiersTest, LesReferencesDeSerieLisentLeDossierCourant) {
+    // LG(...) reads slot 0 (factor 1) at the year of the column number, whatever the column's
+    // dossier; LGn reads the column's own values.
+    const auto rangees = Rangees(GenererTableau(
+        ctx, Texte("tabd2p1([280;120][Courant") + kF + "][totalC:LG(PROD-1)+0:0:0" + kF +
+                 "]#[280;120][Colonne" + kF + "][3@serie:PROD.DON+PROD-1:0:0" + kF +
+                 "]#[280;120][Double" + kF + "][totalS:LG2+LG2:0:0" + kF + "])"));
+    ASSERT_EQ(rangees.size(), 3u);
+    EXPECT_EQ(rangees[0], (std::vector<Texte>{"Courant", "2", "3"}));
+    EXPECT_EQ(rangees[1], (std::vector<Texte>{"Colonne",
+                                              "12\xA0"
+                                              "345",
+                                              "123\xA0"
+                                              "450"}));
+    EXPECT_EQ(rangees[2], (std::vector<Texte>{"Double",
+                                              "24\xA0"
+                                              "690",
+                                              "246\xA0"
+                                              "900"}));
+}
+
 TEST_F(MultiDossiersTest, LeChoixChangeLeNombreEtLesDossiers) {
     nombreChoisi = 1;
     echange = {ctx.etat.RepDossier[2], "Hypothese2"};
