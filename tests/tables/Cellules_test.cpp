@@ -127,12 +127,6 @@ TEST_F(RenduTest, LargeurArrondieAuPairEtBornee) {
     EXPECT_EQ(BordsDroits(definitions), (std::vector<int>{2, 4, 6, 8}));
     // An unknown kind prints its definition in each cell.
     EXPECT_EQ(TextesCellules(cellules), (std::vector<Texte>(4, "inconnu")));
-
-    Tableau("tabp1;larg1000;larg30000([280;120][x][inconnu])");
-    definitions.clear();
-    position = 30000;
-    AjouterCellules(ctx, "inconnu", definitions, cellules, position, false, mode);
-    EXPECT_EQ(position, kPositionMax);
 }
 
 TEST_F(RenduTest, NegatifsEnRougeEtZerosVides) {
@@ -215,15 +209,6 @@ TEST_F(RenduTest, ReglesDesValeursNulles) {
     EXPECT_FALSE(EstValeursNulles(Cellules("1", 1)));
     EXPECT_TRUE(EstValeursNulles("valeurs nulles"));
     EXPECT_FALSE(EstValeursNulles("VALEURS NULLES "));
-}
-
-TEST_F(RenduTest, TraceDeLAuteur) {
-    Texte definitions, cellules;
-    int position = 0;
-    std::int16_t mode = 0;
-    AjouterCellules(ctx, "voir ChatXXX", definitions, cellules, position, true, mode);
-    ASSERT_EQ(u.messages.size(), 1u);
-    EXPECT_NE(u.messages[0].texte.find("voir ChatXXX"), Texte::npos);
 }
 
 } // namespace

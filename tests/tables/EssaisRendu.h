@@ -108,6 +108,17 @@ inline std::vector<Texte> TextesCellules(const Texte& cellules) {
     return textes;
 }
 
+// The rows of a table's RTF, each as the texts of its cells.
+inline std::vector<std::vector<Texte>> Rangees(const Texte& rtf) {
+    std::vector<std::vector<Texte>> r;
+    std::size_t debut = 0;
+    for (auto fin = rtf.find("\\row"); fin != Texte::npos; fin = rtf.find("\\row", debut)) {
+        r.push_back(TextesCellules(rtf.substr(debut, fin - debut)));
+        debut = fin + 4;
+    }
+    return r;
+}
+
 // The right edges "\cellx" of a row's definitions.
 inline std::vector<int> BordsDroits(const Texte& definitions) {
     std::vector<int> bords;

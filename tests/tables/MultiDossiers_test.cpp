@@ -12,8 +12,8 @@
 namespace verdane {
 namespace {
 
+using essais_rendu::Rangees;
 using essais_rendu::RenduTest;
-using essais_rendu::TextesCellules;
 
 constexpr const char* kF = ";5006;10;1;0;0;0;0;0;r;1;1;1;1;8";
 
@@ -37,16 +37,6 @@ protected:
     int nombreChoisi = 0;
     DossierCompare echange;
 };
-
-std::vector<std::vector<Texte>> Rangees(const Texte& rtf) {
-    std::vector<std::vector<Texte>> r;
-    std::size_t debut = 0;
-    for (auto fin = rtf.find("\\row"); fin != Texte::npos; fin = rtf.find("\\row", debut)) {
-        r.push_back(TextesCellules(rtf.substr(debut, fin - debut)));
-        debut = fin + 4;
-    }
-    return r;
-}
 
 TEST_F(MultiDossiersTest, ColonnesDeDossiers) {
     // Slots 1 and 2 hold Hypothese1 (x10) and Hypothese2 (x100).
@@ -102,14 +92,6 @@ TEST_F(MultiDossiersTest, LeChoixChangeLeNombreEtLesDossiers) {
     EXPECT_EQ(ctx.etat.tableaux.TableauxCourants[0].nbDossiers, 1);
 }
 
-TEST_F(MultiDossiersTest, SansChoixLesDossiersRestentEtOnRedemande) {
-    repondre = false;
-    EXPECT_EQ(Rangees(Tableau2("tabd2p1"))[1], (std::vector<Texte>{"An 1", "20", "200"}));
-    Tableau2("tabd2p1");
-    EXPECT_EQ(u.demandes.size(), 2);
-    EXPECT_EQ(ctx.etat.tableaux.nbDossiersChoisis, 0);
-}
-
 TEST_F(MultiDossiersTest, DossiersImposesSansQuestion) {
     ctx.etat.nbDossiersImposes = 1;
     auto rangees = Rangees(Tableau2("tabd2p1"));
@@ -160,14 +142,6 @@ TEST(ConsoleDossiersTest, AuTerminal) {
     EXPECT_EQ(dossiers[1].nom, "MARTIN");
     EXPECT_TRUE(dossiers[2].nom.empty());
     EXPECT_NE(f.Sortie().find("Dossier 1 [/a/DUPONT] ?"), std::string::npos);
-}
-
-TEST(ConsoleDossiersTest, FinDeSaisieSansChoix) {
-    Flux f("2\n");
-    ConsoleUtilisateur console(f.in, true, f.err, false);
-    int nombre = 2;
-    std::vector<DossierCompare> dossiers(9);
-    EXPECT_FALSE(console.ChoisirDossiers("t", "c", nombre, dossiers));
 }
 
 TEST(ConsoleDossiersTest, SansTerminal) {
