@@ -58,16 +58,20 @@ std::vector<Texte> Decouper(const Texte& code) {
     return champs;
 }
 
+// Fields `de` to `a` - 1 joined again; empty when none of them holds anything, so that a
+// cell without format takes the defaults of a new cell.
 Texte Joindre(const std::vector<Texte>& champs, std::size_t de, std::size_t a) {
     Texte t;
+    bool vide = true;
     for (std::size_t i = de; i < a && i < champs.size(); ++i) {
         if (i > de) t += ';';
         t += champs[i];
+        vide = vide && Rogner(champs[i]).empty();
     }
-    return t;
+    return vide ? Texte() : t;
 }
 
-void ExpandreCodes(Contexte& ctx, Texte& texte) {
+void RemplacerCodes(Contexte& ctx, Texte& texte) {
     if (ctx.etat.tableaux.codesImbriques && texte.find("%mrl(") != Texte::npos)
         ctx.etat.tableaux.codesImbriques(texte);
 }
@@ -79,7 +83,7 @@ Texte LibelleDeLigne(Contexte& ctx, const LigneModele* ligne) {
     for (std::size_t c = 0; c < 3; ++c) {
         if (Rogner(ligne->cellules[c].texte).empty()) continue;
         Texte t = ligne->cellules[c].texte;
-        ExpandreCodes(ctx, t);
+        RemplacerCodes(ctx, t);
         return RemplacerExact(t, "_", " ");
     }
     return {};
@@ -278,7 +282,7 @@ void AjouterCellules(Contexte& ctx, const Texte& celluleCode, Texte& definitions
 
     if (estLibelle) {
         FormatCellule(ctx, definitions, cellules, style, position);
-        ExpandreCodes(ctx, texte);
+        RemplacerCodes(ctx, texte);
         cellules += " " + RemplacerExact(texte, "_", " ") + "}\\cell";
     } else {
         const TableauModele& t = TableauEnCours(ctx);

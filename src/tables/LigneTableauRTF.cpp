@@ -36,7 +36,8 @@ Texte ParagrapheEspace(Contexte& ctx, const LigneModele& ligne) {
     const StyleCellule s = LireStyleCellule(c.formatTexte, "", ctx.etat.options);
     const long long decalage = ctx.etat.decalageCouleurs;
     const long long taille = std::clamp<long long>(2LL * s.taille, -3276, 3276);
-    Texte r = "\\q" + s.alignement + "\\f" + std::to_string(s.police) + "\\fs" +
+    const Texte alignement = s.alignement.empty() ? Texte("l") : s.alignement;
+    Texte r = "\\q" + alignement + "\\f" + std::to_string(s.police) + "\\fs" +
               std::to_string(taille) + "\\cf" + std::to_string(s.couleur + decalage);
     if (s.gras) r += "\\b";
     if (s.italique) r += "\\i";

@@ -86,6 +86,8 @@ TEST_F(RenduTest, TeteDeLigne) {
         ctx, "tabp1([5;10][a;5006;10;1;0;0;0;0;0;l;0;0;0;0;8][bidule]#[400;60][b][bidule])");
     EXPECT_NE(rtf.find("\\plain \\trowd\\trleft0\\clvertalc\\clcbpat8\\cellx1000"), Texte::npos);
     EXPECT_NE(rtf.find("\\plain \\trowd\\trgaph60\\trrh400\\trleft0"), Texte::npos);
+    // A cell without format is a new cell: the configured size and alignment, no border.
+    EXPECT_NE(rtf.find("\\cellx8200\\ql\\intbl\\clvertalb{\\fs20\\f5006\\cf1 b}"), Texte::npos);
 }
 
 TEST_F(RenduTest, EspacesSeulsSansRangee) {
