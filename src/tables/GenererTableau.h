@@ -9,9 +9,11 @@ namespace verdane {
 class Contexte;
 
 // The RTF of the table: blanks of the code deleted ("_" stands for them), RTF escapes of
-// accented letters turned into letters, the code read into slot 1 (the only slot left; a
-// repetition prefix, when the code carries one, is read too), the dossiers of a multi-dossier
-// table selected, then each line rendered in order. Dropped lines leave nothing.
+// accented letters turned into letters, the code read into slot 1 (the only slot left), the
+// dossiers of a multi-dossier table selected, then each line rendered in order. Dropped lines
+// leave nothing. A repetition prefix ("culture"...) in front of "tab" is read too; without
+// one, the kind, header form and page start that slot 1 holds stay as they are, so that a
+// repeated table may set them (LirePrefixeTableau) before handing the rest of its code here.
 Texte GenererTableau(Contexte& ctx, const Texte& code);
 
 // The value of a code "formule:<year>a:<formula>[:<decimals>]", given what follows
