@@ -8,6 +8,7 @@
 #include "tables/MultiDossiers.h"
 #include "utils/Chaines.h"
 
+#include <algorithm>
 #include <limits>
 
 namespace verdane {
@@ -70,6 +71,7 @@ Texte GenererTableau(Contexte& ctx, const Texte& codeDocument) {
         Texte ligne = LigneTableauRTF(ctx);
         if (!EstValeursNulles(ligne)) rtf += ligne;
     }
+    et.ligneCourante = 0;
     return rtf;
 }
 
