@@ -8,6 +8,7 @@
 #include "engine/AnalyserCodes.h"
 #include "engine/CreationDoc.h"
 #include "shell/Contexte.h"
+#include "tables/GenererTableau.h"
 
 #include <benchmark/benchmark.h>
 
@@ -104,6 +105,31 @@ void GrosModeleSansCode(benchmark::State& etat) {
                            static_cast<std::int64_t>(std::filesystem::file_size(modele)));
 }
 BENCHMARK(GrosModeleSansCode)->Unit(benchmark::kMillisecond);
+
+// The largest table: 511 lines of 9 labels and 14 values, totals over the lines above, or a
+// series of the dossier in two lines out of three.
+void PlusGrandTableau(benchmark::State& etat, bool series) {
+    Banc banc;
+    banc.ctx.etat.nbAnEtude = 13;
+    const Texte format = ";5006;10;1;0;0;0;0;0;r;1;1;1;1;8";
+    Texte code = "tabp9c1";
+    for (int c = 0; c < 9; ++c) code += ";larg900";
+    code += ";larg14000(";
+    for (int n = 1; n <= 511; ++n) {
+        if (n > 1) code += "#";
+        code += "[280;120]";
+        for (int c = 0; c < 9; ++c) code += "[L" + std::to_string(n) + format + "]";
+        Texte definition =
+            "totalC:LG" + std::to_string(n - 1) + "*2+LG" + std::to_string(n - 2) + ":2:0";
+        if (n == 2 || (series && n % 3 != 0)) definition = "serie:VL.don+VL-7:0:0";
+        if (n == 1) definition = "entete:1";
+        code += "[" + definition + format + "]";
+    }
+    code += ")";
+    for (auto _ : etat) benchmark::DoNotOptimize(GenererTableau(banc.ctx, code));
+}
+BENCHMARK_CAPTURE(PlusGrandTableau, totaux, false)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(PlusGrandTableau, series, true)->Unit(benchmark::kMillisecond);
 
 } // namespace
 
