@@ -94,8 +94,10 @@ void AjouterTablesRtf(Contexte& ctx, Morceau& m) {
     if (!m.sansPolices) m.sansPolices = !AjouterPolices(m.p, m.o);
     if (!m.sansCouleurs) {
         const auto decalage = AjouterCouleurs(m.p, m.o);
-        if (decalage) ctx.etat.decalageCouleurs = *decalage;
-        else m.sansCouleurs = true;
+        if (decalage)
+            ctx.etat.decalageCouleurs = *decalage;
+        else
+            m.sansCouleurs = true;
     }
 }
 
@@ -106,8 +108,10 @@ void ReparerSignets(Morceau& m) {
         if (m.sansSignet[i]) continue;
         const Texte coupe = Texte("#mrl{\\*\\bkmkend ") + kSignets[i] + "}(";
         const auto n = m.p.find(coupe, m.o);
-        if (n == Texte::npos) m.sansSignet[i] = true;
-        else m.p.replace(n, coupe.size(), Texte("{\\*\\bkmkend ") + kSignets[i] + "}#mrl(");
+        if (n == Texte::npos)
+            m.sansSignet[i] = true;
+        else
+            m.p.replace(n, coupe.size(), Texte("{\\*\\bkmkend ") + kSignets[i] + "}#mrl(");
     }
 }
 
@@ -209,7 +213,8 @@ void MettreAJour(Contexte& ctx, std::vector<Texte>& morceaux, Sortie& sortie) {
                 m.o = debut;
                 if (!dernier && m.p.size() - debut < kLimiteCodeMiseAJour)
                     morceaux[i + 1].insert(0, m.Reste());
-                else sortie.EcrireLigne(m.Reste());
+                else
+                    sortie.EcrireLigne(m.Reste());
                 break;
             }
             const auto interieur = marque + kFinValeur.size();
@@ -250,6 +255,7 @@ IssueCreation CreerDocument(Contexte& ctx, const Texte& modeleDemande, const Tex
     e.NbCouleursDoc = 0;
     e.ModeMemeDossier = 0;
     e.decalageCouleurs = 0;
+    e.tableaux.nbDossiersChoisis = 0;
     e.NbCodes = 0;
     e.CodesFaits = 0;
     e.ChampsMaj = 0;

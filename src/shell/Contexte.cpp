@@ -1,6 +1,7 @@
 #include "shell/Contexte.h"
 
 #include "engine/AnalyserCodes.h"
+#include "engine/ExtensionsProgramme.h"
 
 namespace verdane {
 
@@ -11,6 +12,7 @@ AnalyseurCodes& AnalyseurDuProgramme() {
 }
 } // namespace
 
-Contexte::Contexte(PortUtilisateur& u) : utilisateur(u), analyseur(&AnalyseurDuProgramme()) {}
+Contexte::Contexte(PortUtilisateur& u)
+    : utilisateur(u), analyseur(&AnalyseurDuProgramme()), extensions(&ExtensionsDuProgramme()) {}
 
 } // namespace verdane

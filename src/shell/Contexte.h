@@ -25,6 +25,8 @@ public:
 class Contexte {
 public:
     explicit Contexte(PortUtilisateur& utilisateur);
+    Contexte(const Contexte&) = delete;
+    Contexte& operator=(const Contexte&) = delete;
 
     Etat etat;
     PortUtilisateur& utilisateur;
@@ -33,9 +35,9 @@ public:
     std::array<PiloteEditeur*, 4> pilotes{};
     // The code scanner; the program's own unless a test puts another.
     AnalyseurCodes* analyseur;
-    // What the interpreter hands to the table, graph and domain engines; null: the built-in
-    // routines of the program.
-    ExtensionsCode* extensions = nullptr;
+    // What the interpreter hands to the table, graph and domain engines: the program's own
+    // unless a test puts others; null: those codes give an empty value.
+    ExtensionsCode* extensions;
 
     PiloteEditeur* Pilote(Editeur e) const { return pilotes[static_cast<std::size_t>(e)]; }
 };

@@ -1,5 +1,7 @@
 #include "tables/Cellules.h"
 
+#include "engine/AnalyserCodes.h"
+
 #include "data/FormatNombre.h"
 #include "data/ValeurCode.h"
 #include "shell/Contexte.h"
@@ -72,8 +74,7 @@ Texte Joindre(const std::vector<Texte>& champs, std::size_t de, std::size_t a) {
 }
 
 void RemplacerCodes(Contexte& ctx, Texte& texte) {
-    if (ctx.etat.tableaux.codesImbriques && texte.find("%mrl(") != Texte::npos)
-        ctx.etat.tableaux.codesImbriques(texte);
+    if (texte.find("%mrl(") != Texte::npos) AnalyserCodesImbriques(ctx, texte);
 }
 
 // Label text of a line, for the question of its zero rule: the first label cell of 1, 2, 3

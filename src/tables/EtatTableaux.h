@@ -6,7 +6,6 @@
 
 #include <array>
 #include <cstdint>
-#include <functional>
 #include <vector>
 
 namespace verdane {
@@ -29,10 +28,8 @@ struct EtatTableaux {
     // count); 0 until the first such table of a generation has asked.
     std::int16_t nbDossiersChoisis = 0;
 
-    // Hooks that the document engine and the domain tables plug in (not set: nothing).
-    // Expands the marks %mrl(...)% of a cell text in place.
-    std::function<void(Texte&)> codesImbriques;
-    // Rows and values of the crop, activity and investment lines.
+    // Rows and values of the crop, activity and investment lines: the domain tables plug in
+    // here (not set: nothing).
     LignesDomaine* lignesDomaine = nullptr;
 
     // Table n counted from 1; null when there is no such slot.

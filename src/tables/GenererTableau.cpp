@@ -75,16 +75,4 @@ Texte GenererTableau(Contexte& ctx, const Texte& codeDocument) {
     return rtf;
 }
 
-Texte ValeurCodeFormule(Contexte& ctx, const Texte& reste) {
-    const auto deuxPoints = reste.find(':');
-    if (deuxPoints == Texte::npos) return kCodeMalRenseigne;
-    const Texte avant = reste.substr(0, deuxPoints);
-    const auto a = avant.find('a');
-    if (a == Texte::npos) return kCodeMalRenseigne;
-    const long long annee = ValEntier(avant.substr(0, a));
-    const int colonne = static_cast<int>(std::clamp<long long>(
-        annee, std::numeric_limits<short>::min(), std::numeric_limits<short>::max()));
-    return EvaluerFormule(ctx, reste.substr(deuxPoints + 1), colonne);
-}
-
 } // namespace verdane

@@ -1,6 +1,6 @@
 #pragma once
 // A table code of a document (`tab...`, as the mark #mrl(tab...)# holds it) turned into the RTF
-// rows that replace the mark; and the value of a "formule:" code.
+// rows that replace the mark.
 
 #include "utils/Texte.h"
 
@@ -15,12 +15,5 @@ class Contexte;
 // one, the kind, header form and page start that slot 1 holds stay as they are, so that a
 // repeated table may set them (LirePrefixeTableau) before handing the rest of its code here.
 Texte GenererTableau(Contexte& ctx, const Texte& code);
-
-// The value of a code "formule:<year>a:<formula>[:<decimals>]", given what follows
-// "formule:": the formula computed for that year. A code without its "a" or its ":" gives
-// kCodeMalRenseigne (the interpreter tells the user).
-Texte ValeurCodeFormule(Contexte& ctx, const Texte& reste);
-
-inline constexpr const char* kCodeMalRenseigne = "<Code Mal renseigné : valeur non calculée>";
 
 } // namespace verdane

@@ -1,5 +1,7 @@
 #include "tables/LigneTableauRTF.h"
 
+#include "engine/AnalyserCodes.h"
+
 #include "data/ValeurCode.h"
 #include "shell/Contexte.h"
 #include "tables/Cellules.h"
@@ -45,8 +47,7 @@ Texte ParagrapheEspace(Contexte& ctx, const LigneModele& ligne) {
     if (s.barre) r += "\\strike";
     if (s.ombre) r += "\\shad";
     Texte texte = RemplacerExact(SansBlancsFinals(c.texte), "_", " ");
-    if (ctx.etat.tableaux.codesImbriques && texte.find("%mrl(") != Texte::npos)
-        ctx.etat.tableaux.codesImbriques(texte);
+    if (texte.find("%mrl(") != Texte::npos) AnalyserCodesImbriques(ctx, texte);
     return r + " " + texte + "\\par\\plain ";
 }
 

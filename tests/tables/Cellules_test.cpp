@@ -35,18 +35,13 @@ TEST(FormatCelluleTest, CadreEtParagrapheDansLOrdre) {
 
 TEST_F(RenduTest, CelluleDeLibelle) {
     Tableau("tabp1;larg1500;larg6000([280;120][x;5006;10;1;0;0;0;0;0;l;1;1;1;1;8][espace])");
-    std::vector<Texte> vus;
-    ctx.etat.tableaux.codesImbriques = [&](Texte& t) {
-        vus.push_back(t);
-        t = Remplacer(t, "%mrl(nomExplSoc)%", "GAEC_du_Pré");
-    };
+    ctx.etat.enrDossier.nomExploitation = "GAEC du Pré   ";
     Texte definitions, cellules;
     int position = 1500;
     std::int16_t mode = 0;
     // Size 0 prints at 8 points; the fields after the fifteenth are ignored.
     AjouterCellules(ctx, "Ferme %mrl(nomExplSoc)%;4000;0;2;1;1;0;0;0;c;2;0;0;0;16;9;9", definitions,
                     cellules, position, true, mode);
-    EXPECT_EQ(vus.size(), 1u);
     EXPECT_EQ(definitions, " \\clbrdrt\\brdrdb\\clvertalc\\clcbpat16\\cellx1500");
     EXPECT_EQ(cellules, "\\qc\\intbl\\clvertalb{\\fs16\\f5006\\cf2\\b\\i Ferme GAEC du Pré}\\cell");
     EXPECT_EQ(position, 1500);

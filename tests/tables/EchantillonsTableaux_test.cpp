@@ -3,11 +3,11 @@
 // to text to see that the tables open as tables with their values.
 
 #include "data/ChargerDossier.h"
+#include "engine/CreationDoc.h"
 #include "shell/Contexte.h"
 #include "support/DossierTemporaire.h"
 #include "support/FauxUtilisateur.h"
 #include "tables/BibliothequeTableaux.h"
-#include "tables/GenererTableau.h"
 #include "utils/Chaines.h"
 #include "utils/GestFontTable.h"
 #include "utils/OutilsFichiers.h"
@@ -34,31 +34,14 @@ protected:
         ChargerDossier(ctx);
     }
 
-    // The model with its table and formula marks replaced, the others left as a word.
+    // The sample model made into a document by the creation driver.
     Texte Document() {
-        Texte modele = LireFichier(kMarlo + "Verdane/ModlDocs/tableaux.vdm").value_or("");
-        Texte r;
-        std::size_t p = 0;
-        for (;;) {
-            const auto debut = modele.find("#mrl(", p);
-            const auto fin = debut == Texte::npos ? debut : modele.find(")#", debut);
-            if (fin == Texte::npos) break;
-            r += modele.substr(p, debut - p);
-            const Texte code = modele.substr(debut + 5, fin - debut - 5);
-            if (CommencePar(code, "tab"))
-                r += GenererTableau(ctx, code);
-            else if (CommencePar(code, "formule:"))
-                r += ValeurCodeFormule(ctx, code.substr(8));
-            else
-                r += "[" + code + "]";
-            p = fin + 2;
-        }
-        r += modele.substr(p);
-        AjouterPolices(r);
-        if (const auto decalage = AjouterCouleurs(r)) ctx.etat.decalageCouleurs = *decalage;
-        return r;
+        const Texte resultat = sortie / "tableaux.rtf";
+        CreerDocument(ctx, kMarlo + "Verdane/ModlDocs/tableaux.vdm", resultat, false, true, false);
+        return LireFichier(resultat).value_or("");
     }
 
+    test::DossierTemporaire sortie;
     test::FauxUtilisateur u;
     Contexte ctx;
 };
@@ -91,8 +74,8 @@ TEST_F(EchantillonsTest, ModeleDeTableaux) {
         GTEST_SKIP() << "LibreOffice absent: no conversion";
     test::DossierTemporaire d;
     d.Ecrire("tableaux.rtf", doc);
-    const std::string commande = "cd '" + d.Chemin().string() + "' && HOME='" +
-                                 d.Chemin().string() +
+    const std::string commande = "cd '" + d.Systeme().string() + "' && HOME='" +
+                                 d.Systeme().string() +
                                  "' timeout 120 soffice --headless --convert-to txt:Text "
                                  "tableaux.rtf >/dev/null 2>&1";
     if (std::system(commande.c_str()) != 0 || !FichierExiste(d / "tableaux.txt"))

@@ -72,7 +72,7 @@ protected:
         d.Ecrire(nom + "/PROD.don",
                  FichierDon({Serie("Produit", {f, 2 * f, 3 * f, 1234.5f * f, 5 * f}),
                              Serie("Perte", {-f, -2 * f, -3 * f, -4 * f}), Serie("Rien", {})}));
-        ctx.etat.RepDossier[static_cast<std::size_t>(slot)] = d.Texte_();
+        ctx.etat.RepDossier[static_cast<std::size_t>(slot)] = d.Chemin();
         ctx.etat.NomDossier[static_cast<std::size_t>(slot)] = nom;
     }
 

@@ -1,3 +1,4 @@
+#include "engine/AnalyserCodes.h"
 #include "tables/GenererTableau.h"
 
 #include "EssaisRendu.h"
@@ -175,12 +176,17 @@ TEST_F(RenduTest, EchappementsEtBlancs) {
 }
 
 TEST_F(RenduTest, CodeFormule) {
-    EXPECT_EQ(ValeurCodeFormule(ctx, "2a:LG(PROD-1)*2+1:1"), "7,0");
-    EXPECT_EQ(ValeurCodeFormule(ctx, "3a:(150+COS(0))*10^2:0"), "15\xA0"
-                                                                "100");
-    EXPECT_EQ(ValeurCodeFormule(ctx, "3:1+1"), kCodeMalRenseigne);
-    EXPECT_EQ(ValeurCodeFormule(ctx, "3a1+1"), kCodeMalRenseigne);
-    EXPECT_EQ(ValeurCodeFormule(ctx, "99999999999a:1/0:0"), "0");
+    auto valeur = [&](const Texte& code) {
+        Texte t = "#mrl(formule:" + code + ")#";
+        AnalyserCodes(ctx, t, false, false);
+        return t;
+    };
+    EXPECT_EQ(valeur("2a:LG(PROD-1)*2+1:1"), "7,0");
+    EXPECT_EQ(valeur("3a:(150+COS(0))*10^2:0"), "15\xA0"
+                                                "100");
+    EXPECT_EQ(valeur("3:1+1"), "<Code Mal renseigné : valeur non calculée>");
+    EXPECT_EQ(valeur("3a1+1"), "<Code Mal renseigné : valeur non calculée>");
+    EXPECT_EQ(valeur("99999999999a:1/0:0"), "0");
 }
 
 TEST_F(RenduTest, CodesMalFormesNeCassentRien) {
