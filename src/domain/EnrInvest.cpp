@@ -30,6 +30,7 @@ constexpr auto kDispositionEmprunt = [](auto& f, auto& e) {
     f.Aller(12);
     f.I16(e.type);
     f.Chaine(e.libelle, 40);
+    f.Aller(56);
     f.I16(e.bonifie);
     f.Chaine(e.dateRealisation, 10);
     f.Chaine(e.date2, 10);
