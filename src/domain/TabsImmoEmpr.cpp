@@ -48,8 +48,14 @@ const std::vector<Colonne> kColonnesEmpr = {
     {"Echéance", 9650, "r", true, true},  {"fin", 10400, "c", false, false},
 };
 
-const char* const kTitresEmpr1[] = {"", "Date", "",         "", "", "",         "",
-                                    "", "",     "Taux : 1", "", "", "Taux : 2", "Date"};
+// The first header row of the loans, over the groups of columns.
+const std::vector<Colonne> kColonnesEmpr1 = {
+    {"", 1600, "c", false, false},        {"Date", 2400, "c", false, false},
+    {"", 3300, "c", false, false},        {"", 3700, "c", false, false},
+    {"", 4200, "c", false, false},        {"", 4700, "c", true, false},
+    {"Taux : 1", 7600, "c", true, false}, {"Taux : 2", 9650, "c", true, false},
+    {"Date", 10400, "c", false, false},
+};
 
 // Cells of one row of a list: header (bold on shading 16) or body.
 Texte RangeeListe(const Etat& etat, const Texte& prefixe, const std::vector<Colonne>& colonnes,
@@ -232,9 +238,9 @@ Texte TableauSubventions(Contexte& ctx, char variante, int dec, const Texte& pre
 Texte TableauEmprunts(Contexte& ctx, char variante, int dec, const Texte& prefixe) {
     LireFichierInvest(ctx, 'e');
     const Etat& etat = ctx.etat;
-    std::vector<Texte> premiere(std::begin(kTitresEmpr1), std::end(kTitresEmpr1));
     const Texte entete =
-        RangeeListe(etat, prefixe, kColonnesEmpr, premiere, {}, true, "1", "0") + kFinLigne +
+        RangeeListe(etat, prefixe, kColonnesEmpr1, Titres(kColonnesEmpr1), {}, true, "1", "0") +
+        kFinLigne +
         RangeeListe(etat, prefixe, kColonnesEmpr, Titres(kColonnesEmpr), {}, true, "0", "1") +
         kFinLigne;
     return TableauListe(ctx, variante, {"Emprunts nouveaux", "Emprunts anciens", 10400}, entete,
