@@ -5,6 +5,7 @@
 #include "domain/RangeeModele.h"
 #include "tables/DefinitionLigne.h"
 #include "tables/LectureCode.h"
+#include "tables/StyleCellule.h"
 #include "utils/Chaines.h"
 
 #include "utils/OutilsFichiers.h"
@@ -252,15 +253,14 @@ Texte LignesCultures(Contexte& ctx, int ligne, const Texte& prefixe) {
     static const char* const kMots[3] = {"totalvente", "totalfourr", "totalmarai"};
     // The total rows: the line's cells in bold.
     LigneModele total = *modele;
-    auto gras = [&](const Texte& format) {
-        Texte f = format;
-        const auto p3 = PositionPointVirgule(f, 3);
-        if (p3 == Texte::npos) return f;
-        const auto p4 = f.find(';', p3 + 1);
-        return f.substr(0, p3 + 1) + "1" + (p4 == Texte::npos ? Texte() : f.substr(p4));
+    auto gras = [&](Texte& format, Texte& cadre) {
+        StyleCellule style = LireStyleCellule(format, cadre, ctx.etat.options);
+        style.gras = true;
+        format = FormatTexteDe(style);
+        cadre = FormatCadreDe(style);
     };
-    for (auto& c : total.cellules) c.formatTexte = gras(c.formatTexte);
-    total.formatTexte = gras(total.formatTexte);
+    for (auto& c : total.cellules) gras(c.formatTexte, c.formatCadre);
+    gras(total.formatTexte, total.formatCadre);
     Texte rtf;
     for (std::size_t g = 0; g < 3; ++g) {
         rtf += groupes[g];
