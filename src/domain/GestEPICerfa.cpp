@@ -85,8 +85,8 @@ float Immores(const Etat& etat, long long record, int annee) {
 }
 
 // The series of the summary rows, by year: records added and taken off.
-float Somme(const Etat& etat, std::initializer_list<long long> plus,
-            std::initializer_list<long long> moins, int annee) {
+float Somme(const Etat& etat, const std::vector<long long>& plus,
+            const std::vector<long long>& moins, int annee) {
     float v = 0;
     for (long long r : plus) v += Immores(etat, r, annee);
     for (long long r : moins) v -= Immores(etat, r, annee);
@@ -95,8 +95,8 @@ float Somme(const Etat& etat, std::initializer_list<long long> plus,
 
 struct SerieResume {
     const char* libelle;
-    std::initializer_list<long long> plus;
-    std::initializer_list<long long> moins;
+    std::vector<long long> plus;
+    std::vector<long long> moins;
 };
 
 int DerniereAnnee(const Etat& etat) {
@@ -216,7 +216,8 @@ Texte TableauPlansFinancement(Contexte& ctx, int dec, const Texte& prefixe) {
         }
         for (const auto* s : p.subventions) {
             rtf += Rangee(etat, prefixe, bords,
-                          {"", "", "", "", "", "", "", "", TexteNombre(etat, s->montant, 7, false)},
+                          {"", "", "", "", "", "", "", "",
+                           FormatNombre(s->montant, 7, false, MarquesNombre{",", ""})},
                           Corps(), styles) +
                    kFinLigneSerree;
             ++lignes;
