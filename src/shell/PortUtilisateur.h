@@ -5,6 +5,8 @@
 
 #include "utils/Texte.h"
 
+#include <vector>
+
 namespace verdane {
 
 // The message form: main text, technical text, title and kind. An empty kind draws the main
@@ -19,6 +21,12 @@ struct Message {
 enum class Boutons { Ok, OuiNon, OuiNonAnnuler, OkAnnuler };
 enum class Reponse { Ok, Oui, Non, Annuler };
 enum class Icone { Aucune, Information, Attention, Critique, Question };
+
+// A dossier of Marlo as the dossier slots hold it: its parent folder and its name.
+struct DossierCompare {
+    Texte repertoire;
+    Texte nom;
+};
 
 class PortUtilisateur {
 public:
@@ -40,6 +48,14 @@ public:
 
     // The hourglass pointer during a long operation.
     virtual void Sablier(bool /*actif*/) {}
+
+    // The dossiers that a multi-dossier table compares, under `titre` and `consigne`.
+    // `nombre` (1 to 9) and `dossiers` (slots 1 to 9, the first at index 0) come in as they
+    // stand and go out as chosen. False: no choice made, nothing is changed.
+    virtual bool ChoisirDossiers(const Texte& /*titre*/, const Texte& /*consigne*/, int& /*nombre*/,
+                                 std::vector<DossierCompare>& /*dossiers*/) {
+        return false;
+    }
 };
 
 // Says nothing, answers every question with its default: for runs that nobody watches and for

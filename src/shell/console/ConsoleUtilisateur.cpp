@@ -37,6 +37,22 @@ std::vector<Reponse> Choix(Boutons b) {
     return {Reponse::Ok};
 }
 
+// A dossier's path as the user sees it: its folder and its name.
+Texte CheminDossier(const DossierCompare& d) {
+    if (Rogner(d.nom).empty()) return {};
+    Texte r = Rogner(d.repertoire);
+    if (!r.empty() && r.back() != '/' && r.back() != '\\') r += '/';
+    return r + Rogner(d.nom);
+}
+
+// A path typed by the user: the parent folder (with its separator) and the last name.
+DossierCompare DossierDeChemin(Texte chemin) {
+    while (chemin.size() > 1 && (chemin.back() == '/' || chemin.back() == '\\')) chemin.pop_back();
+    const auto p = chemin.find_last_of("/\\");
+    if (p == Texte::npos) return {"./", chemin};
+    return {chemin.substr(0, p + 1), chemin.substr(p + 1)};
+}
+
 } // namespace
 
 std::string TexteConsole(const Texte& texte) {
@@ -82,7 +98,8 @@ Reponse ConsoleUtilisateur::Question(const Texte& texte, const Texte& titre, Bou
     Reponse prise = parDefaut;
     if (imposee_) {
         prise = *imposee_;
-        if (boutons == Boutons::OkAnnuler) prise = prise == Reponse::Oui ? Reponse::Ok : Reponse::Annuler;
+        if (boutons == Boutons::OkAnnuler)
+            prise = prise == Reponse::Oui ? Reponse::Ok : Reponse::Annuler;
         s += std::string("-> ") + NomReponse(prise) + " (réponse imposée)\n";
         Ecrire(s);
     } else if (!entreeTerminal_) {
@@ -137,6 +154,48 @@ void ConsoleUtilisateur::PoserJauge(int largeur, const Texte& libelle) {
 void ConsoleUtilisateur::FermerJauge() {
     if (jaugeOuverte_ && erreurTerminal_) std::fputs("\n", erreur_);
     jaugeOuverte_ = false;
+}
+
+std::optional<std::string> ConsoleUtilisateur::LireLigne() {
+    std::string ligne;
+    char tampon[512];
+    while (std::fgets(tampon, sizeof tampon, entree_)) {
+        ligne += tampon;
+        if (!ligne.empty() && ligne.back() == '\n') break;
+    }
+    if (ligne.empty()) return std::nullopt;
+    while (!ligne.empty() && (ligne.back() == '\n' || ligne.back() == '\r')) ligne.pop_back();
+    return ligne;
+}
+
+bool ConsoleUtilisateur::ChoisirDossiers(const Texte& titre, const Texte& consigne, int& nombre,
+                                         std::vector<DossierCompare>& dossiers) {
+    std::string s = "[" + TexteConsole(titre) + "]\n" + TexteConsole(consigne) + "\n";
+    if (!entreeTerminal_) {
+        s += TexteConsole("Aucun terminal pour choisir : comparaison des dossiers précédents.\n");
+        for (int k = 1; k <= nombre && k <= static_cast<int>(dossiers.size()); ++k)
+            s += "  Dossier " + std::to_string(k) + " : " +
+                 TexteConsole(CheminDossier(dossiers[static_cast<std::size_t>(k - 1)])) + "\n";
+        Ecrire(s);
+        return true;
+    }
+    Ecrire(s + TexteConsole("Nombre de dossiers à comparer (1 à 9) [") + std::to_string(nombre) +
+           "] ? ");
+    const auto reponse = LireLigne();
+    if (!reponse) return false;
+    if (const auto n = EntierStrict(Utf8VersCp1252(*reponse)); n && *n >= 1 && *n <= 9)
+        nombre = static_cast<int>(*n);
+    if (dossiers.size() < static_cast<std::size_t>(nombre))
+        dossiers.resize(static_cast<std::size_t>(nombre));
+    for (int k = 1; k <= nombre; ++k) {
+        DossierCompare& d = dossiers[static_cast<std::size_t>(k - 1)];
+        Ecrire("Dossier " + std::to_string(k) + " [" + TexteConsole(CheminDossier(d)) + "] ? ");
+        const auto chemin = LireLigne();
+        if (!chemin) return false;
+        const Texte t = RognerTout(Utf8VersCp1252(*chemin));
+        if (!t.empty()) d = DossierDeChemin(t);
+    }
+    return true;
 }
 
 } // namespace verdane

@@ -26,6 +26,10 @@ public:
     void OuvrirJauge(const Texte& titre) override;
     void PoserJauge(int largeur, const Texte& libelle) override;
     void FermerJauge() override;
+    // At a terminal: the count, then each dossier's path (an empty answer keeps what stands).
+    // Without one: the dossiers as they stand (those of the options file), said on stderr.
+    bool ChoisirDossiers(const Texte& titre, const Texte& consigne, int& nombre,
+                         std::vector<DossierCompare>& dossiers) override;
 
     // An answer imposed on every question (verdane-lot --reponse): Oui or Non, taken as OK or
     // Cancel by a question that has those buttons. None by default.
@@ -33,6 +37,8 @@ public:
 
 private:
     void Ecrire(const std::string& utf8);
+    // A line typed at the terminal, without its end; nothing at the end of input.
+    std::optional<std::string> LireLigne();
     std::FILE* entree_;
     bool entreeTerminal_;
     std::FILE* erreur_;

@@ -1,0 +1,125 @@
+// The sample installation: the model of tables over the dossiers DUPONT and MARTIN, and the
+// library of tables. When LibreOffice is on the machine, the generated document is converted
+// to text to see that the tables open as tables with their values.
+
+#include "data/ChargerDossier.h"
+#include "shell/Contexte.h"
+#include "support/DossierTemporaire.h"
+#include "support/FauxUtilisateur.h"
+#include "tables/BibliothequeTableaux.h"
+#include "tables/GenererTableau.h"
+#include "utils/Chaines.h"
+#include "utils/GestFontTable.h"
+#include "utils/OutilsFichiers.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <string>
+
+namespace verdane {
+namespace {
+
+const std::string kMarlo = std::string(VERDANE_SOURCE_DIR) + "/samples/marlo/";
+
+class EchantillonsTest : public ::testing::Test {
+protected:
+    EchantillonsTest() : ctx(u) {
+        ctx.etat.marques = MarquesNombre{",", " "};
+        for (std::size_t slot : {0u, 1u, 2u}) ctx.etat.RepDossier[slot] = kMarlo + "Dossiers/";
+        ctx.etat.NomDossier[0] = "DUPONT";
+        ctx.etat.NomDossier[1] = "DUPONT";
+        ctx.etat.NomDossier[2] = "MARTIN";
+        ChargerDossier(ctx);
+    }
+
+    // The model with its table and formula marks replaced, the others left as a word.
+    Texte Document() {
+        Texte modele = LireFichier(kMarlo + "Verdane/ModlDocs/tableaux.vdm").value_or("");
+        Texte r;
+        std::size_t p = 0;
+        for (;;) {
+            const auto debut = modele.find("#mrl(", p);
+            const auto fin = debut == Texte::npos ? debut : modele.find(")#", debut);
+            if (fin == Texte::npos) break;
+            r += modele.substr(p, debut - p);
+            const Texte code = modele.substr(debut + 5, fin - debut - 5);
+            if (CommencePar(code, "tab"))
+                r += GenererTableau(ctx, code);
+            else if (CommencePar(code, "formule:"))
+                r += ValeurCodeFormule(ctx, code.substr(8));
+            else
+                r += "[" + code + "]";
+            p = fin + 2;
+        }
+        r += modele.substr(p);
+        AjouterPolices(r);
+        if (const auto decalage = AjouterCouleurs(r)) ctx.etat.decalageCouleurs = *decalage;
+        return r;
+    }
+
+    test::FauxUtilisateur u;
+    Contexte ctx;
+};
+
+TEST_F(EchantillonsTest, ModeleDeTableaux) {
+    ASSERT_TRUE(FichierExiste(kMarlo + "Verdane/ModlDocs/tableaux.vdm"));
+    const Texte doc = Document();
+    EXPECT_TRUE(u.messages.empty()) << u.ToutCeQuiAEteDit();
+    // No dossier asked: the console would compare the slots of the options file.
+    EXPECT_EQ(ctx.etat.tableaux.nbDossiersChoisis, 0);
+    // Lait x prix / 1000 in year 1: 315000 x 360 / 1000.
+    EXPECT_NE(doc.find(" 113 400}\\cell"), Texte::npos);
+    // Multi-dossier: cows of year 1 in DUPONT and MARTIN, milk per cow.
+    EXPECT_NE(doc.find(" 45}\\cell"), Texte::npos);
+    EXPECT_NE(doc.find(" 72}\\cell"), Texte::npos);
+    EXPECT_NE(doc.find(" 7 000}\\cell"), Texte::npos);
+    EXPECT_NE(doc.find(" 8 194}\\cell"), Texte::npos);
+    // Study of 5 years starting 1 October 2024: the titles of form 1 and 4.
+    EXPECT_NE(doc.find(" 2024/25}\\cell"), Texte::npos);
+    EXPECT_NE(doc.find(" 2023-2024}\\cell"), Texte::npos);
+    EXPECT_NE(doc.find("Installation}\\cell"), Texte::npos);
+    // The premium block keeps the two lines with values; the formula code has its value.
+    EXPECT_NE(doc.find("aide aux prot\xE9"
+                       "agineux"),
+              Texte::npos);
+    EXPECT_EQ(doc.find("bl\xE9 dur"), Texte::npos);
+    EXPECT_NE(doc.find("en euros 136 900"), Texte::npos);
+
+    if (std::system("command -v soffice >/dev/null 2>&1") != 0)
+        GTEST_SKIP() << "LibreOffice absent: no conversion";
+    test::DossierTemporaire d;
+    d.Ecrire("tableaux.rtf", doc);
+    const std::string commande = "cd '" + d.Chemin().string() + "' && HOME='" +
+                                 d.Chemin().string() +
+                                 "' timeout 120 soffice --headless --convert-to txt:Text "
+                                 "tableaux.rtf >/dev/null 2>&1";
+    if (std::system(commande.c_str()) != 0 || !FichierExiste(d / "tableaux.txt"))
+        GTEST_SKIP() << "LibreOffice could not convert";
+    const std::string texte = d.Lire("tableaux.txt");
+    // Each cell is its own paragraph in the text export of a table.
+    for (const char* cellule :
+         {"\nCampagne\n", "\nProduit lait\n", "\n113 400\n", "\nDUPONT\n", "\nMARTIN\n", "\n45\n",
+          "\n72\n", "\n2024/25\n", "\nCroisi\xC3\xA8re\n", "\nLait par vache an 1\n", "\n7 000\n"})
+        EXPECT_NE(texte.find(cellule), std::string::npos) << cellule << "\n" << texte;
+    EXPECT_EQ(texte.find("\\cell"), std::string::npos);
+}
+
+TEST(BibliothequeEchantillonTest, LueEtReecriteALIdentique) {
+    UtilisateurMuet u;
+    Contexte ctx(u);
+    const Texte chemin = kMarlo + "Verdane/ModlDocs/tableaux.txt";
+    ChargerTableaux(ctx, chemin, true);
+    const auto& tableaux = ctx.etat.tableaux.TableauxCourants;
+    ASSERT_EQ(tableaux.size(), 6u);
+    EXPECT_EQ(tableaux[2].dossier, "Synth\xE8se");
+    EXPECT_EQ(tableaux[4].multiDossier, 1);
+    EXPECT_EQ(tableaux[4].lignes[3].annee, 5);
+    test::DossierTemporaire d;
+    ASSERT_TRUE(EcrireTableaux(ctx, d / "copie.txt"));
+    EXPECT_EQ(d.Lire("copie.txt"), LireFichier(chemin).value_or("?"));
+}
+
+} // namespace
+} // namespace verdane

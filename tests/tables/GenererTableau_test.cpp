@@ -1,0 +1,249 @@
+#include "tables/GenererTableau.h"
+
+#include "EssaisRendu.h"
+#include "tables/Cellules.h"
+#include "tables/LignesDomaine.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace verdane {
+namespace {
+
+using essais_rendu::FichierDon;
+using essais_rendu::RenduTest;
+using essais_rendu::Serie;
+using essais_rendu::TextesCellules;
+
+constexpr const char* kLibelle = ";5006;10;1;0;0;0;0;0;l;1;1;1;1;16";
+constexpr const char* kValeurs = ";5006;10;1;0;0;0;0;0;r;1;1;1;1;8";
+
+Texte L(const Texte& libelle, const Texte& definition) {
+    return "[280;120][" + libelle + kLibelle + "][" + definition + kValeurs + "]";
+}
+
+Texte Code(const Texte& tete, const std::vector<Texte>& lignes) {
+    Texte c = tete + "(";
+    for (std::size_t i = 0; i < lignes.size(); ++i) c += (i ? "#" : "") + lignes[i];
+    return c + ")";
+}
+
+// The rows of a table's RTF, each as the texts of its cells.
+std::vector<std::vector<Texte>> Rangees(const Texte& rtf) {
+    std::vector<std::vector<Texte>> r;
+    std::size_t debut = 0;
+    for (auto fin = rtf.find("\\row"); fin != Texte::npos; fin = rtf.find("\\row", debut)) {
+        r.push_back(TextesCellules(rtf.substr(debut, fin - debut)));
+        debut = fin + 4;
+    }
+    return r;
+}
+
+std::size_t Compter(const Texte& t, const Texte& mot) {
+    std::size_t n = 0;
+    for (auto p = t.find(mot); p != Texte::npos; p = t.find(mot, p + 1)) ++n;
+    return n;
+}
+
+const std::vector<Texte> kLignesCompletes = {
+    L("Campagne", "entete:1:a&b"),
+    L("Produit", "serie:PROD.DON+PROD-1:0:0"),
+    L("Pertes_cachées", "serie:PROD.DON+PROD-2:0:3"),
+    L("Marge", "totalS:LG2+LG3:0:0"),
+    L("Calcul", "totalC:LG2*2+LG(PROD-1!A1):1:0"),
+    L("Note_de_bas", "espace"),
+    L("", "newpg"),
+    L("Autre", "bidule"),
+};
+
+TEST_F(RenduTest, TableauClassique) {
+    const Texte rtf = GenererTableau(ctx, Code("tabp1c;larg2000;larg6000", kLignesCompletes));
+    const auto rangees = Rangees(rtf);
+    const Texte milliers = "1\xA0"
+                           "234";
+    ASSERT_EQ(rangees.size(), 5u);
+    EXPECT_EQ(rangees[0], (std::vector<Texte>{"Campagne", "2006/07", "2007/08", "2008/09"}));
+    EXPECT_EQ(rangees[1], (std::vector<Texte>{"Produit", "2", "3", milliers}));
+    // Line 3 is never shown but feeds line 4; the zeros are empty cells.
+    EXPECT_EQ(rangees[2], (std::vector<Texte>{"Marge", " ", " ",
+                                              "1\xA0"
+                                              "230"}));
+    // Line values as displayed (1234, not 1234.5) plus a series of a fixed year.
+    EXPECT_EQ(rangees[3], (std::vector<Texte>{"Calcul", "6,0", "8,0",
+                                              "2\xA0"
+                                              "470,0"}));
+    EXPECT_EQ(rangees[4], (std::vector<Texte>{"Autre", "bidule", "bidule", "bidule"}));
+    EXPECT_EQ(Compter(rtf, "\\trowd"), 5u);
+    EXPECT_EQ(Compter(rtf, "\\trqc"), 5u);
+    EXPECT_EQ(Compter(rtf, "\\cellx2000"), 5u);
+    EXPECT_EQ(Compter(rtf, "\\cellx8000"), 5u);
+    EXPECT_NE(rtf.find("\\ql\\f5006\\fs20\\cf1 Note de bas\\par\\plain }\\page {"), Texte::npos);
+    EXPECT_EQ(rtf.find("cachées"), Texte::npos);
+    EXPECT_EQ(rtf.rfind("\\row\\pard\\plain "), rtf.size() - 16);
+    EXPECT_TRUE(u.messages.empty()) << u.ToutCeQuiAEteDit();
+
+    // A second table reads what the first left: the values are never cleared.
+    const Texte suite = GenererTableau(ctx, Code("tabp1", {L("Reprise", "totalC:LG4:0:0")}));
+    EXPECT_EQ(Rangees(suite), (std::vector<std::vector<Texte>>{{"Reprise", " ", " ",
+                                                                "1\xA0"
+                                                                "230"}}));
+}
+
+TEST_F(RenduTest, TeteDeLigne) {
+    const Texte rtf = GenererTableau(
+        ctx, "tabp1([5;10][a;5006;10;1;0;0;0;0;0;l;0;0;0;0;8][bidule]#[400;60][b][bidule])");
+    EXPECT_NE(rtf.find("\\plain \\trowd\\trleft0\\clvertalc\\clcbpat8\\cellx1000"), Texte::npos);
+    EXPECT_NE(rtf.find("\\plain \\trowd\\trgaph60\\trrh400\\trleft0"), Texte::npos);
+}
+
+TEST_F(RenduTest, EspacesSeulsSansRangee) {
+    const Texte rtf =
+        GenererTableau(ctx, Code("tabp1", {"[280;120][Titre_%mrl(x)%;5140;0;3;1;0;1;0;0;c][espace]",
+                                           "[280;120][Fin__][espace]"}));
+    EXPECT_EQ(rtf.find("\\trowd"), Texte::npos);
+    // Size 0 keeps the size word with 0; the codes of the text are left when nobody expands them.
+    EXPECT_EQ(rtf, "\\qc\\f5140\\fs0\\cf3\\b\\ul Titre %mrl(x)%\\par\\plain "
+                   "\\ql\\f5006\\fs20\\cf1 Fin\\par\\plain ");
+}
+
+TEST_F(RenduTest, AnneeDebutEtPremiereDerniere) {
+    ctx.etat.enrDossier.dateDebut = "01/01/2006";
+    auto rangees = Rangees(GenererTableau(
+        ctx, Code("tabp11", {L("An", "entete:1"), L("Produit", "serie:PROD.DON+PROD-1:0:0")})));
+    EXPECT_EQ(rangees[0], (std::vector<Texte>{"An", "2005", "2006", "2007", "2008"}));
+    EXPECT_EQ(rangees[1], (std::vector<Texte>{"Produit", "1", "2", "3",
+                                              "1\xA0"
+                                              "234"}));
+
+    rangees = Rangees(
+        GenererTableau(ctx, Code("tabp12", {L("An", "entete:1:Début&Fin"), L("Sans", "entete:1"),
+                                            L("Produit", "serie:PROD.DON+PROD-1:0:0"),
+                                            L("Somme", "totalC:LG3+0:0:0")})));
+    EXPECT_EQ(rangees[0], (std::vector<Texte>{"An", "Début", "Fin"}));
+    EXPECT_EQ(rangees[1],
+              (std::vector<Texte>{"Sans", "1ère année de prévision", "Fin de prévision"}));
+    EXPECT_EQ(rangees[2], (std::vector<Texte>{"Produit", "2",
+                                              "1\xA0"
+                                              "234"}));
+    EXPECT_EQ(Valeur(2, 3), 0.0f); // the hidden middle year
+
+    rangees = Rangees(GenererTableau(
+        ctx, Code("tabp13", {L("Rien", "serie:PROD.DON+PROD-1:0:0"), L("Zéros", "entete:1")})));
+    EXPECT_EQ(rangees, (std::vector<std::vector<Texte>>{{"Rien"}, {"Zéros"}}));
+}
+
+TEST_F(RenduTest, ZeroRegleDeuxSansReponseGardeLaLigne) {
+    auto rangees =
+        Rangees(GenererTableau(ctx, Code("tabp1", {L("Nulle", "serie:PROD.DON+PROD-3:0:2"),
+                                                   L("Nulle_aussi", "serie:PROD.DON+PROD-3:0")})));
+    EXPECT_EQ(rangees.size(), 2u);
+    EXPECT_EQ(u.questions.size(), 2u);
+    u.reponses = {Reponse::Non, Reponse::Oui};
+    rangees = Rangees(GenererTableau(ctx, Code("tabp1", {L("Nulle", "serie:PROD.DON+PROD-3:0:2"),
+                                                         L("Gardée", "serie:PROD.DON+PROD-3")})));
+    ASSERT_EQ(rangees.size(), 1u);
+    EXPECT_EQ(rangees[0][0], "Gardée");
+}
+
+TEST_F(RenduTest, FormulesVersLeBasEtFichiersAbsents) {
+    ctx.etat.tableaux.valeursLignes[1][2] = 50.0f; // left by an earlier table
+    const auto rangees = Rangees(GenererTableau(
+        ctx, Code("tabp1", {L("Avant", "totalC:LG2+LG(ABSENT-4):0:0"),
+                            L("Absent", "serie:ABSENT.DON+ABSENT-4:0:0"),
+                            L("Cassée", "totalC:(LG1:0:0"), L("Vide", "totalC:LG:0:0")})));
+    ASSERT_EQ(rangees.size(), 4u);
+    EXPECT_EQ(rangees[0], (std::vector<Texte>{"Avant", "50", " ", " "}));
+    EXPECT_EQ(rangees[1], (std::vector<Texte>{"Absent", " ", " ", " "}));
+    EXPECT_EQ(rangees[2], (std::vector<Texte>{"Cassée", " ", " ", " "}));
+    EXPECT_FALSE(u.messages.empty()); // "LG" with nothing behind it is told
+}
+
+TEST_F(RenduTest, BlocDePrimes) {
+    std::vector<EnrDon> primes(65, Serie("", {}));
+    primes[0] = Serie("Prime vache|€", {0, 100, 200, 300});
+    primes[4] = Serie("Prime brebis", {0, 0, 0, -5});
+    primes[22] = Serie("Hors plage", {0, 1, 1, 1});
+    d.Ecrire("Ferme/pricult.don", FichierDon(primes));
+    const auto rangees = Rangees(
+        GenererTableau(ctx, "tabp2r;larg1000;larg500;larg3000([280;120][x" + Texte(kLibelle) +
+                                "][y" + kLibelle + "][prime:pricv:0:1" + kValeurs + "])"));
+    ASSERT_EQ(rangees.size(), 2u);
+    EXPECT_EQ(rangees[0], (std::vector<Texte>{"prime vache", "prime vache", "100", "200", "300"}));
+    EXPECT_EQ(rangees[1], (std::vector<Texte>{"prime brebis", "prime brebis", " ", " ", "-5"}));
+    // A word of no range gives a single record 0: nothing in it, the zero rule drops it.
+    EXPECT_TRUE(GenererTableau(ctx, "tabp1(" + L("x", "prime:autre:0:1") + ")").find("\\row") ==
+                Texte::npos);
+}
+
+class DomaineTemoin : public LignesDomaine {
+public:
+    Texte Lignes(Contexte&, GenreLigne genre, int ligne, const Texte& prefixe) override {
+        return prefixe + "<bloc " + std::to_string(static_cast<int>(genre)) + " ligne " +
+               std::to_string(ligne) + ">";
+    }
+    Texte Valeur(Contexte&, GenreLigne, const Texte& reste, int colonne) override {
+        return reste == "SURF:1" ? std::to_string(colonne * 10) : Texte("0");
+    }
+    Texte LibelleCulture(Contexte&) override { return "Blé tendre"; }
+};
+
+TEST_F(RenduTest, LignesDuDomaine) {
+    const Texte code =
+        Code("culture1tabp1", {L("x", "cultu:ASSOL:0"), L("y", "imemp:inves"),
+                               L("Surface", "scult:SURF:1:1"), L("Rien", "scult:AUTRE:0:1")});
+    // Without a domain behind them, these lines give nothing.
+    EXPECT_TRUE(Rangees(GenererTableau(ctx, code)).empty());
+    DomaineTemoin domaine;
+    ctx.etat.tableaux.lignesDomaine = &domaine;
+    const Texte rtf = GenererTableau(ctx, code);
+    EXPECT_NE(rtf.find("\\trleft0<bloc 5 ligne 1>"), Texte::npos);
+    EXPECT_NE(rtf.find("\\trleft0<bloc 7 ligne 2>"), Texte::npos);
+    EXPECT_EQ(Rangees(rtf), (std::vector<std::vector<Texte>>{{"Blé tendre", "10", "20", "30"}}));
+}
+
+TEST_F(RenduTest, EchappementsEtBlancs) {
+    const auto rangees = Rangees(GenererTableau(
+        ctx, "tab p1 ([280;120][Ann\\'e9e_\\'e0_venir\\'b0;5006;10;1;0;0;0;0;0;l][bidule])"));
+    ASSERT_EQ(rangees.size(), 1u);
+    EXPECT_EQ(rangees[0][0], "Année à venir");
+}
+
+TEST_F(RenduTest, CodeFormule) {
+    EXPECT_EQ(ValeurCodeFormule(ctx, "2a:LG(PROD-1)*2+1:1"), "7,0");
+    EXPECT_EQ(ValeurCodeFormule(ctx, "3a:(150+COS(0))*10^2:0"), "15\xA0"
+                                                                "100");
+    EXPECT_EQ(ValeurCodeFormule(ctx, "3:1+1"), kCodeMalRenseigne);
+    EXPECT_EQ(ValeurCodeFormule(ctx, "3a1+1"), kCodeMalRenseigne);
+    EXPECT_EQ(ValeurCodeFormule(ctx, "99999999999a:1/0:0"), "0");
+}
+
+TEST_F(RenduTest, CodesMalFormesNeCassentRien) {
+    const Texte complet = Code("tabd3p2cr1;larg1000;larg99999;larg40000", kLignesCompletes);
+    for (std::size_t n = 0; n <= complet.size(); ++n) GenererTableau(ctx, complet.substr(0, n));
+    const std::vector<Texte> mauvais = {
+        "",
+        "tab",
+        "tabp0(" + L("a", "serie:PROD.DON+PROD-1") + ")",
+        "tabp9",
+        "tabp99;larg-5;larg-7(" + L("a", "totalS:LG1/LG0") + ")",
+        "tabd0p1(" + L("a", "entete") + ")",
+        "tabd9p1(" + L("a", "3@serie:X") + ")",
+        "tab((((([[[[;;;;]]]]#####)))",
+        "tabp1([a;b][c;d;e;f;g;h;i;j;k;l;m;n;o;p;q;r;s;t][totalC:LG(:0:0])",
+        "tabp1([280;120][x;99999999999;99999999999;-7;1;1;1;1;1;zz;9;9;9;9;-3][serie:P+P-1])",
+        "tabp1([280;120][x][entete:9])",
+        "tabp1([280;120][x][totalC:LG600+LG(NUL-0!A99):0:0])",
+    };
+    for (const Texte& code : mauvais) GenererTableau(ctx, code);
+
+    // 600 lines: the table holds 511.
+    std::vector<Texte> lignes(600, L("l", "serie:PROD.DON+PROD-1:0:0"));
+    const Texte rtf = GenererTableau(ctx, Code("tabp1", lignes));
+    EXPECT_EQ(Compter(rtf, "\\row"), 511u);
+    EXPECT_EQ(ctx.etat.tableaux.TableauxCourants.size(), 1u);
+}
+
+} // namespace
+} // namespace verdane

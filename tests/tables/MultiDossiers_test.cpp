@@ -1,0 +1,171 @@
+#include "tables/MultiDossiers.h"
+
+#include "EssaisRendu.h"
+#include "shell/console/ConsoleUtilisateur.h"
+#include "tables/GenererTableau.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <string>
+
+namespace verdane {
+namespace {
+
+using essais_rendu::RenduTest;
+using essais_rendu::TextesCellules;
+
+constexpr const char* kF = ";5006;10;1;0;0;0;0;0;r;1;1;1;1;8";
+
+class MultiDossiersTest : public RenduTest {
+protected:
+    MultiDossiersTest() {
+        u.choix = [this](int& nombre, std::vector<DossierCompare>& dossiers) {
+            if (nombreChoisi) nombre = nombreChoisi;
+            if (!echange.nom.empty()) dossiers[0] = echange;
+            return repondre;
+        };
+    }
+    Texte Tableau2(const Texte& tete) {
+        return GenererTableau(ctx, tete + "([280;120][Dossier" + kF + "][entete:1:x" + kF +
+                                       "]#[280;120][An_1" + kF + "][1@serie:PROD.DON+PROD-1:0:0" +
+                                       kF + "]#[280;120][An_0" + kF +
+                                       "][serie:PROD.DON+PROD-1:0:0" + kF + "]#[280;120][Double" +
+                                       kF + "][totalC:LG2*2:0:0" + kF + "])");
+    }
+    bool repondre = true;
+    int nombreChoisi = 0;
+    DossierCompare echange;
+};
+
+std::vector<std::vector<Texte>> Rangees(const Texte& rtf) {
+    std::vector<std::vector<Texte>> r;
+    std::size_t debut = 0;
+    for (auto fin = rtf.find("\\row"); fin != Texte::npos; fin = rtf.find("\\row", debut)) {
+        r.push_back(TextesCellules(rtf.substr(debut, fin - debut)));
+        debut = fin + 4;
+    }
+    return r;
+}
+
+TEST_F(MultiDossiersTest, ColonnesDeDossiers) {
+    // Slots 1 and 2 hold Hypothese1 (x10) and Hypothese2 (x100).
+    const auto rangees = Rangees(Tableau2("tabd2p1;larg1500;larg4000"));
+    ASSERT_EQ(rangees.size(), 4u);
+    EXPECT_EQ(rangees[0], (std::vector<Texte>{"Dossier", "Hypothese1", "Hypothese2"}));
+    EXPECT_EQ(rangees[1], (std::vector<Texte>{"An 1", "20", "200"}));
+    // Without "@" a line reads index 0.
+    EXPECT_EQ(rangees[2], (std::vector<Texte>{"An 0", "10", "100"}));
+    EXPECT_EQ(rangees[3], (std::vector<Texte>{"Double", "40", "400"}));
+    EXPECT_EQ(u.demandes.size(), 1);
+    EXPECT_EQ(u.demandes[0], Texte(kTitreMultiDossier) + "|" + kConsigneMultiDossier);
+    EXPECT_EQ(ctx.etat.tableaux.nbDossiersChoisis, 2);
+
+    // Same count: no second question. Another count: asked again.
+    Tableau2("tabd2p1");
+    EXPECT_EQ(u.demandes.size(), 1);
+    Tableau2("tabd1p1");
+    EXPECT_EQ(u.demandes.size(), 2);
+    EXPECT_EQ(u.proposes[1], 1);
+    EXPECT_EQ(ctx.etat.tableaux.nbDossiersChoisis, 1);
+}
+
+TEST_F(MultiDossiersTest, LeChoixChangeLeNombreEtLesDossiers) {
+    nombreChoisi = 1;
+    echange = {ctx.etat.RepDossier[2], "Hypothese2"};
+    const auto rangees = Rangees(Tableau2("tabd3p1"));
+    EXPECT_EQ(rangees[0], (std::vector<Texte>{"Dossier", "Hypothese2"}));
+    EXPECT_EQ(rangees[1], (std::vector<Texte>{"An 1", "200"}));
+    EXPECT_EQ(ctx.etat.NomDossier[1], "Hypothese2");
+    EXPECT_EQ(ctx.etat.tableaux.nbDossiersChoisis, 1);
+    EXPECT_EQ(ctx.etat.tableaux.TableauxCourants[0].nbDossiers, 1);
+}
+
+TEST_F(MultiDossiersTest, SansChoixLesDossiersRestentEtOnRedemande) {
+    repondre = false;
+    EXPECT_EQ(Rangees(Tableau2("tabd2p1"))[1], (std::vector<Texte>{"An 1", "20", "200"}));
+    Tableau2("tabd2p1");
+    EXPECT_EQ(u.demandes.size(), 2);
+    EXPECT_EQ(ctx.etat.tableaux.nbDossiersChoisis, 0);
+}
+
+TEST_F(MultiDossiersTest, DossiersImposesSansQuestion) {
+    ctx.etat.nbDossiersImposes = 1;
+    auto rangees = Rangees(Tableau2("tabd2p1"));
+    EXPECT_EQ(rangees[1], (std::vector<Texte>{"An 1", "20"}));
+    EXPECT_EQ(u.demandes.size(), 0);
+    ctx.etat.nbDossiersImposes = 2;
+    rangees = Rangees(Tableau2("tabd1p1"));
+    EXPECT_EQ(rangees[1], (std::vector<Texte>{"An 1", "20"}));
+    rangees = Rangees(Tableau2("tabd2p1"));
+    EXPECT_EQ(rangees[1], (std::vector<Texte>{"An 1", "20", "200"}));
+    EXPECT_EQ(u.demandes.size(), 0);
+}
+
+// The console: at a terminal it reads the count and the paths; without one it keeps the
+// dossiers and says so.
+struct Flux {
+    explicit Flux(const std::string& entree) : in(std::tmpfile()), err(std::tmpfile()) {
+        std::fputs(entree.c_str(), in);
+        std::rewind(in);
+    }
+    ~Flux() {
+        std::fclose(in);
+        std::fclose(err);
+    }
+    std::string Sortie() {
+        std::rewind(err);
+        std::string s;
+        for (int c; (c = std::fgetc(err)) != EOF;) s += static_cast<char>(c);
+        return s;
+    }
+    std::FILE* in;
+    std::FILE* err;
+};
+
+TEST(ConsoleDossiersTest, AuTerminal) {
+    Flux f("3\n\n/donn\xC3\xA9"
+           "es/Marlo/MARTIN/\n\n");
+    ConsoleUtilisateur console(f.in, true, f.err, false);
+    int nombre = 2;
+    std::vector<DossierCompare> dossiers(9);
+    dossiers[0] = {"/a/", "DUPONT"};
+    ASSERT_TRUE(
+        console.ChoisirDossiers(kTitreMultiDossier, kConsigneMultiDossier, nombre, dossiers));
+    EXPECT_EQ(nombre, 3);
+    EXPECT_EQ(dossiers[0].nom, "DUPONT");
+    EXPECT_EQ(dossiers[1].repertoire, "/donn\xE9"
+                                      "es/Marlo/");
+    EXPECT_EQ(dossiers[1].nom, "MARTIN");
+    EXPECT_TRUE(dossiers[2].nom.empty());
+    EXPECT_NE(f.Sortie().find("Dossier 1 [/a/DUPONT] ?"), std::string::npos);
+}
+
+TEST(ConsoleDossiersTest, FinDeSaisieSansChoix) {
+    Flux f("2\n");
+    ConsoleUtilisateur console(f.in, true, f.err, false);
+    int nombre = 2;
+    std::vector<DossierCompare> dossiers(9);
+    EXPECT_FALSE(console.ChoisirDossiers("t", "c", nombre, dossiers));
+}
+
+TEST(ConsoleDossiersTest, SansTerminal) {
+    Flux f("");
+    ConsoleUtilisateur console(f.in, false, f.err, false);
+    int nombre = 2;
+    std::vector<DossierCompare> dossiers(9);
+    dossiers[0] = {"/a/", "DUPONT"};
+    dossiers[1] = {"/b", "MARTIN"};
+    EXPECT_TRUE(
+        console.ChoisirDossiers(kTitreMultiDossier, kConsigneMultiDossier, nombre, dossiers));
+    EXPECT_EQ(nombre, 2);
+    const std::string sortie = f.Sortie();
+    EXPECT_NE(sortie.find("comparaison des dossiers pr\xC3\xA9"
+                          "c\xC3\xA9"
+                          "dents"),
+              std::string::npos);
+    EXPECT_NE(sortie.find("Dossier 2 : /b/MARTIN"), std::string::npos);
+}
+
+} // namespace
+} // namespace verdane
