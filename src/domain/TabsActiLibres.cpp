@@ -30,7 +30,7 @@ Texte TableauActivites(Contexte& ctx, const Texte& codeComplet, const RenduTable
                    Rogner(module.nom) + "\\par \\plain \\par \\plain ";
         else if (entete.typeEntete == 2)
             rtf += BandeActivite(ctx.etat, module.nom) + kParagraphe;
-        if (rendu) rtf += rendu(ctx, code);
+        if (rendu) rtf += rendu(ctx, codeComplet);
     }
     return rtf;
 }

@@ -7,7 +7,8 @@
 namespace verdane {
 
 // The whole table of `code` (with its `actlibr` prefix) once per active module.
-Texte TableauActivites(Contexte& ctx, const Texte& code, const RenduTableau& rendu);
+Texte TableauActivites(Contexte& ctx, const Texte& code,
+                       const RenduTableau& rendu = RenduDuProgramme());
 
 // Value of `code` such as "@156:2" or "156:2" at a year index, from `AL<NN>AL.don` of the
 // current module: number text, decimals after ":" (7 without). A missing file gives 0 and the

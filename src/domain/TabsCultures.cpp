@@ -4,6 +4,7 @@
 #include "domain/FichiersDomaine.h"
 #include "domain/RangeeModele.h"
 #include "tables/DefinitionLigne.h"
+#include "tables/GenererTableau.h"
 #include "tables/LectureCode.h"
 #include "tables/StyleCellule.h"
 #include "utils/Chaines.h"
@@ -143,6 +144,10 @@ CodeLigne LireCodeLigne(const Texte& definition) {
 }
 
 } // namespace
+
+RenduTableau RenduDuProgramme() {
+    return [](Contexte& ctx, const Texte& code) { return GenererTableau(ctx, code); };
+}
 
 Texte UniteSurface(int unite, bool perenne) {
     switch (unite) {
@@ -364,13 +369,13 @@ Texte TableauCultures(Contexte& ctx, const Texte& codeComplet, const RenduTablea
             }
             PoserCulturePerenne(d, c);
             ouvrir([&] { return BlocCulturePerenne(ctx.etat, c); }, c.libelle);
-            if (rendu) rtf += rendu(ctx, code);
+            if (rendu) rtf += rendu(ctx, codeComplet);
         }
     } else {
         for (const auto& c : LireCultures(ctx.etat)) {
             PoserCulture(d, c);
             ouvrir([&] { return BlocCulture(ctx.etat, c); }, c.libelle);
-            if (rendu) rtf += rendu(ctx, code);
+            if (rendu) rtf += rendu(ctx, codeComplet);
         }
     }
     return rtf;

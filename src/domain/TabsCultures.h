@@ -10,9 +10,10 @@
 
 namespace verdane {
 
-// Renders one table code (beginning with "tab", its repetition prefix taken off) as the table
-// walk does, with the current crop or module of EtatDomaine set.
+// Renders one table code (with its repetition prefix) as the table walk does, with the current
+// crop or module of EtatDomaine set. The program's own is GenererTableau.
 using RenduTableau = std::function<Texte(Contexte&, const Texte& code)>;
+RenduTableau RenduDuProgramme();
 
 // Rows of kind `cultu` for row `ligne` of the table being rendered (slot 1): one row per
 // annual crop, in three groups (vente, fourragère, maraîchère), with the group totals when the
@@ -40,7 +41,8 @@ Texte LibelleLigneCulture(const Etat& etat, const TableauModele& tableau, const 
 
 // The whole table of `code` (with its `culture` or `cultper` prefix) once per crop, each
 // opened by its top block, report block or band. Empty without crops.
-Texte TableauCultures(Contexte& ctx, const Texte& code, const RenduTableau& rendu);
+Texte TableauCultures(Contexte& ctx, const Texte& code,
+                      const RenduTableau& rendu = RenduDuProgramme());
 
 // The report blocks and the band, for the current crop.
 Texte BlocCulture(const Etat& etat, const EnrCulture& culture);

@@ -150,7 +150,7 @@ TEST_F(TabsCulturesTest, TableauRepeteParCulture) {
         return Texte("[table]");
     };
     const std::string rtf = TableauCultures(ctx, "culture13tab(x)", rendu);
-    EXPECT_EQ(vus, (std::vector<std::string>{"Blé|tab(x)", "Chou|tab(x)"}));
+    EXPECT_EQ(vus, (std::vector<std::string>{"Blé|culture13tab(x)", "Chou|culture13tab(x)"}));
     EXPECT_NE(rtf.find("\\qr\\fs20\\cf2\\b 3-1\\par \\plain "), std::string::npos);
     EXPECT_NE(rtf.find("\\qr\\fs20\\cf2\\b 3-2\\par \\plain "), std::string::npos);
     EXPECT_NE(rtf.find("\\b     Blé" + std::string(50, ' ') + "Culture de vente principale\\par"),
