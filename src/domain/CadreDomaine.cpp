@@ -76,7 +76,8 @@ Texte TexteDuree(float valeur, bool enPeriodes, float periode) {
     if (enPeriodes) {
         if (valeur == 0) return "";
         const char* unite = " mois";
-        const int p = std::isfinite(periode) ? static_cast<int>(periode) : 0;
+        const int p =
+            std::isfinite(periode) && std::fabs(periode) < 1000 ? static_cast<int>(periode) : 0;
         if (p == 2)
             unite = " bimestre";
         else if (p == 3)

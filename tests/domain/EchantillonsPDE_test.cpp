@@ -46,6 +46,9 @@ protected:
     // given their record's value, the other codes stay as a bracketed word.
     Texte Rendre(const std::string& modele) {
         Texte texte = LireFichier(kMarlo + "Verdane/ModlDocs/" + modele).value_or("");
+        // The program's palette first: the tables name its colours by their shifted index.
+        AjouterPolices(texte);
+        if (const auto decalage = AjouterCouleurs(texte)) ctx.etat.decalageCouleurs = *decalage;
         const EnrDossier& e = ctx.etat.enrDossier;
         Texte r;
         std::size_t p = 0;
@@ -73,10 +76,7 @@ protected:
                 r += "[" + code + "]";
             p = fin + 2;
         }
-        r += texte.substr(p);
-        AjouterPolices(r);
-        if (const auto decalage = AjouterCouleurs(r)) ctx.etat.decalageCouleurs = *decalage;
-        return r;
+        return r + texte.substr(p);
     }
 
     test::FauxUtilisateur u;
@@ -141,6 +141,20 @@ TEST_F(EchantillonsPDETest, PagesDuPDE) {
                                  "PDECerfa.rtf >/dev/null 2>&1";
     if (std::system(commande.c_str()) != 0) GTEST_SKIP() << "LibreOffice could not convert";
     EXPECT_TRUE(std::filesystem::exists(sortie / "PDECerfa.pdf"));
+}
+
+TEST_F(EchantillonsPDETest, ModeleDesTablesDuDomaine) {
+    const Texte doc = Rendre("domaine.vdm");
+    EXPECT_NE(doc.find("Immobilisations anciennes"), Texte::npos);
+    EXPECT_NE(doc.find(" stabulation libre log.}\\cell"), Texte::npos);
+    EXPECT_NE(doc.find(" Cult. fourragères}\\cell"), Texte::npos);
+    EXPECT_NE(doc.find("Culture fourragère dérobée"), Texte::npos);
+    EXPECT_NE(doc.find("Caractéristiques :"), Texte::npos);
+    EXPECT_NE(doc.find("\\b 4-8\\par"), Texte::npos);
+    EXPECT_NE(doc.find("Autofinancement}\\cell"), Texte::npos);
+    const std::filesystem::path sortie = std::filesystem::path(VERDANE_BIN_DIR) / "pde";
+    std::filesystem::create_directories(sortie);
+    std::ofstream(sortie / "domaine.rtf", std::ios::binary) << doc;
 }
 
 } // namespace
