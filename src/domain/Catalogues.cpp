@@ -271,9 +271,8 @@ const std::vector<ElementCatalogue>& CatalogueAnimaux() {
     return kListe;
 }
 
-std::vector<NoeudCatalogue> ArbreCatalogue(const std::vector<ElementCatalogue>& catalogue,
-                                           int mode) {
-    std::vector<NoeudCatalogue> noeuds;
+std::vector<NoeudElement> ArbreElements(const std::vector<ElementCatalogue>& catalogue, int mode) {
+    std::vector<NoeudElement> noeuds;
     int compteur = 0;
     auto ajouter = [&](auto&& soi, const std::vector<ElementCatalogue>& liste,
                        const Texte& parent) -> void {

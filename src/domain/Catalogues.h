@@ -26,7 +26,7 @@ const std::vector<ElementCatalogue>& CatalogueAnimaux();
 
 // One node of a dialog's tree: "rep" for a folder, "puce" for an item; `parent` is the key
 // of the folder above, empty at the top.
-struct NoeudCatalogue {
+struct NoeudElement {
     Texte parent;
     Texte cle;
     Texte libelle;
@@ -34,7 +34,7 @@ struct NoeudCatalogue {
 };
 // The tree of a catalogue in the order a tree control takes it (parents first). In mode 1
 // (the table line dialog) item keys become "ALani:<n>" lines; in mode 0 they stay codes.
-std::vector<NoeudCatalogue> ArbreCatalogue(const std::vector<ElementCatalogue>& catalogue,
-                                           int mode = 0);
+std::vector<NoeudElement> ArbreElements(const std::vector<ElementCatalogue>& catalogue,
+                                        int mode = 0);
 
 } // namespace verdane

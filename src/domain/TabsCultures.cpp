@@ -289,7 +289,7 @@ Texte LignesCulturesPerennes(Contexte& ctx, int ligne, const Texte& prefixe) {
         PoserCulturePerenne(d, culture);
         rtf += RangeeModele(
             ctx.etat, *tableau, *modele, prefixe, {Rogner(culture.libelle)},
-            [&](int col) { return NombreArobaseCulture(ctx.etat, code.nom, col, true); },
+            [&](int col) { return NombreArobaseCulture(ctx.etat, "assolemper", col, true); },
             code.decimales);
     }
     d.culturePerenneCourante = sauve;

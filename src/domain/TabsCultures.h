@@ -19,7 +19,8 @@ RenduTableau RenduDuProgramme();
 // annual crop, in three groups (vente, fourragère, maraîchère), with the group totals when the
 // sub-code is `assol`. `prefixe` is the row prefix built by the table walk.
 Texte LignesCultures(Contexte& ctx, int ligne, const Texte& prefixe);
-// Rows of kind `cultp`: one row per perennial crop, list order, no groups, no totals.
+// Rows of kind `cultp`: one row per perennial crop, list order, no groups, no totals; the
+// values are record 1 of the crop's `CltP<n>.don`, its surface.
 Texte LignesCulturesPerennes(Contexte& ctx, int ligne, const Texte& prefixe);
 
 // The value of the current crop for `texte` "<name>:..." (name compared in lower case) at a

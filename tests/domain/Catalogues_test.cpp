@@ -32,7 +32,7 @@ TEST(Catalogues, ElementsEtNumerotation) {
 }
 
 TEST(Catalogues, ArbreAvecClesUniques) {
-    const auto noeuds = ArbreCatalogue(CatalogueAnimaux(), 1);
+    const auto noeuds = ArbreElements(CatalogueAnimaux(), 1);
     std::set<Texte> cles, dossiers;
     for (const auto& n : noeuds) {
         EXPECT_TRUE(cles.insert(n.cle).second) << n.cle;
