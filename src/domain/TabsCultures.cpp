@@ -143,7 +143,41 @@ CodeLigne LireCodeLigne(const Texte& definition) {
     return {Minuscules(d.code), d.decimales};
 }
 
+// The line's code names `@14` or `@15`: the margin lines that a fourragère crop calls a cost.
+bool LigneDeMarge(std::string_view definition) {
+    for (const char* debut : {"scult:@14", "scult:@15"})
+        if (definition.rfind(debut, 0) == 0) {
+            const std::string_view suite = definition.substr(9);
+            if (suite.empty() || suite[0] == ':' || suite[0] == ';') return true;
+        }
+    return false;
+}
+
 } // namespace
+
+Texte CodeCoutNetOp(const Texte& code) {
+    const auto ouvre = code.find('(');
+    if (ouvre == Texte::npos) return code;
+    Texte r = code.substr(0, ouvre + 1);
+    std::size_t debut = ouvre + 1;
+    for (;;) {
+        const auto fin = code.find('#', debut);
+        Texte ligne = code.substr(debut, fin == Texte::npos ? Texte::npos : fin - debut);
+        // Brackets: [height;gap], the label cells, then the definition.
+        const auto dernier = ligne.rfind('[');
+        const auto premier = ligne.find('[', ligne.find(']') == Texte::npos ? 0 : ligne.find(']'));
+        if (dernier != Texte::npos && premier != Texte::npos && premier < dernier &&
+            LigneDeMarge(std::string_view(ligne).substr(dernier + 1))) {
+            const auto finTexte = ligne.find_first_of(";]", premier + 1);
+            ligne.replace(premier + 1, finTexte - premier - 1, "Coût_net_op.");
+        }
+        r += ligne;
+        if (fin == Texte::npos) break;
+        r += "#";
+        debut = fin + 1;
+    }
+    return r;
+}
 
 RenduTableau RenduDuProgramme() {
     return [](Contexte& ctx, const Texte& code) { return GenererTableau(ctx, code); };
@@ -375,7 +409,7 @@ Texte TableauCultures(Contexte& ctx, const Texte& codeComplet, const RenduTablea
         for (const auto& c : LireCultures(ctx.etat)) {
             PoserCulture(d, c);
             ouvrir([&] { return BlocCulture(ctx.etat, c); }, c.libelle);
-            if (rendu) rtf += rendu(ctx, codeComplet);
+            if (rendu) rtf += rendu(ctx, c.genre == 3 ? CodeCoutNetOp(codeComplet) : codeComplet);
         }
     }
     return rtf;

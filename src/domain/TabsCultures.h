@@ -40,6 +40,10 @@ float NombreArobaseCulture(const Etat& etat, std::string_view code, int annee, b
 Texte LibelleLigneCulture(const Etat& etat, const TableauModele& tableau, const LigneModele& ligne,
                           int colonne, const Texte& texte);
 
+// A table code whose lines of `scult:@14` and `scult:@15` carry "Coût net op." as their
+// first label, as a fourragère crop's table shows them.
+Texte CodeCoutNetOp(const Texte& code);
+
 // The whole table of `code` (with its `culture` or `cultper` prefix) once per crop, each
 // opened by its top block, report block or band. Empty without crops.
 Texte TableauCultures(Contexte& ctx, const Texte& code,

@@ -54,7 +54,14 @@ TEST_F(RenduDomaineTest, TableauRepeteParCultureAvecSesValeurs) {
     EXPECT_NE(rtf.find(" 650}\\cell"), std::string::npos);
     EXPECT_NE(rtf.find(" -130}\\cell"), std::string::npos);
     // The fourragère's margin is a net cost; header form 2 keeps the line's label otherwise.
-    EXPECT_NE(rtf.find(" Marge}"), std::string::npos);
+    const auto prairie = rtf.find(" Prairie}");
+    EXPECT_LT(rtf.find(" Marge}"), prairie);
+    EXPECT_NE(rtf.find(" Coût net op.}", prairie), std::string::npos);
+    EXPECT_EQ(rtf.find(" Marge}", prairie), std::string::npos);
+    EXPECT_EQ(CodeCoutNetOp("tab([1;2][A;f][scult:@145;f]#[1;2][B;f][scult:@15:0;f])"),
+              "tab([1;2][A;f][scult:@145;f]#[1;2][Coût_net_op.;f][scult:@15:0;f])");
+    EXPECT_EQ(CodeCoutNetOp("tab([scult:@14]"), "tab([scult:@14]");
+    EXPECT_EQ(CodeCoutNetOp("tab[[]#"), "tab[[]#");
 }
 
 TEST_F(RenduDomaineTest, ActivitesEtInvestissements) {
