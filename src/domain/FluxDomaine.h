@@ -3,7 +3,7 @@
 // description, written once, reads a record from its bytes or writes them. Fields sit at
 // fixed offsets (`Aller`), so gaps the program doesn't read stay zero in what it writes.
 
-#include "utils/Binaire.h"
+#include "data/FluxEnregistrement.h"
 
 #include <array>
 #include <cstdint>
@@ -12,26 +12,17 @@
 
 namespace verdane {
 
-struct FluxLectureDomaine {
-    LecteurBinaire l;
+// The fluxes of the dossier records, with a position to go to, doubles and arrays.
+struct FluxLectureDomaine : FluxLecture {
     void Aller(std::size_t position) { l.Placer(position); }
-    void Chaine(Texte& t, std::size_t n) { t = l.Chaine(n); }
-    void I16(std::int16_t& v) { v = l.I16(); }
-    void I32(std::int32_t& v) { v = l.I32(); }
-    void F32(float& v) { v = l.F32(); }
     void F64(double& v) { v = l.F64(); }
     template <std::size_t N> void F32s(std::array<float, N>& v) {
         for (auto& x : v) x = l.F32();
     }
 };
 
-struct FluxEcritureDomaine {
-    EcrivainBinaire e;
+struct FluxEcritureDomaine : FluxEcriture {
     void Aller(std::size_t position) { e.Completer(position); }
-    void Chaine(const Texte& t, std::size_t n) { e.Chaine(t, n); }
-    void I16(std::int16_t v) { e.I16(v); }
-    void I32(std::int32_t v) { e.I32(v); }
-    void F32(float v) { e.F32(v); }
     void F64(double v) { e.F64(v); }
     template <std::size_t N> void F32s(const std::array<float, N>& v) {
         for (float x : v) e.F32(x);
@@ -42,7 +33,7 @@ struct FluxEcritureDomaine {
 template <typename Enr, typename Description>
 Enr LireEnrDomaine(std::string_view octets, Description description) {
     Enr enr;
-    FluxLectureDomaine f{LecteurBinaire(octets)};
+    FluxLectureDomaine f{{LecteurBinaire(octets)}};
     description(f, enr);
     return enr;
 }
