@@ -8,6 +8,7 @@
 #include "domain/TabsActiLibres.h"
 #include "domain/TabsCultures.h"
 #include "shell/Contexte.h"
+#include "support/DossierTemporaire.h"
 #include "support/FauxUtilisateur.h"
 #include "tables/GenererTableau.h"
 #include "utils/Chaines.h"
@@ -155,6 +156,22 @@ TEST_F(EchantillonsPDETest, ModeleDesTablesDuDomaine) {
     const std::filesystem::path sortie = std::filesystem::path(VERDANE_BIN_DIR) / "pde";
     std::filesystem::create_directories(sortie);
     std::ofstream(sortie / "domaine.rtf", std::ios::binary) << doc;
+}
+
+TEST_F(EchantillonsPDETest, SocieteSansListes) {
+    // A copy of the company dossier: its plan file is made on the first financing table.
+    test::DossierTemporaire copie;
+    std::filesystem::copy(kMarlo + "Dossiers/GAEC", copie.Chemin() / "GAEC");
+    ctx.etat.RepDossier[0] = copie.Texte_();
+    ctx.etat.NomDossier[0] = "GAEC";
+    ChargerDossier(ctx);
+    EXPECT_TRUE(SuffixeSocietePDE(ctx));
+    EXPECT_TRUE(u.questions.empty());
+    const Texte p8 = Rendre("PDE/PDE8.vdm");
+    EXPECT_EQ(copie.Lire("GAEC/PlanF.fin").size(), 20u * 116u);
+    EXPECT_NE(p8.find(" Volume total des investissements}\\cell"), Texte::npos);
+    EXPECT_EQ(p8.find("BAT1"), Texte::npos);
+    EXPECT_NE(Rendre("PDE/PDE9.vdm").find(" TOTAL GENERAL}\\cell"), Texte::npos);
 }
 
 } // namespace
