@@ -56,6 +56,8 @@ void CreerPlansVides(const Texte& chemin) {
 } // namespace
 
 Texte FichierDossier(const Etat& etat, std::string_view nom) {
+    // No dossier chosen: no path at all, never a file of the current or root folder.
+    if (Rogner(etat.RepDossier[0]).empty() || Rogner(etat.NomDossier[0]).empty()) return {};
     return DossierComplet(etat, 0) + Texte(nom);
 }
 
@@ -86,7 +88,7 @@ int LireFichierInvest(Contexte& ctx, char cle) {
         return static_cast<int>(d.emprunts.size());
     case 'p': {
         const Texte chemin = FichierDossier(ctx.etat, "PlanF.fin");
-        if (!FichierExiste(chemin) && DossierExiste(DossierComplet(ctx.etat, 0)))
+        if (!chemin.empty() && !FichierExiste(chemin) && DossierExiste(DossierParent(chemin)))
             CreerPlansVides(chemin);
         const auto octets = LireFichier(chemin);
         d.nbPlans = LirePlans(octets ? std::string_view(*octets) : std::string_view{}, d.plans);

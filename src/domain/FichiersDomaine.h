@@ -12,7 +12,7 @@
 
 namespace verdane {
 
-// A file of the current dossier's folder (slot 0).
+// A file of the current dossier's folder (slot 0); empty when no dossier is chosen.
 Texte FichierDossier(const Etat& etat, std::string_view nom);
 
 // Reads one investment file into its list of EtatDomaine, by key letter: "i" `Immo.imm`,

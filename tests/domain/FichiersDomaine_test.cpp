@@ -96,6 +96,11 @@ TEST_F(FichiersDomaineTest, PlanAbsentCreeAvecVingtEmplacements) {
     ctx.etat.NomDossier[0] = "Absent";
     EXPECT_EQ(LireFichierInvest(ctx, 'p'), 0);
     EXPECT_FALSE(std::filesystem::exists(d.Chemin() / "Absent"));
+    // No dossier chosen at all: nothing is read and nothing is made.
+    ctx.etat.RepDossier[0] = "  ";
+    EXPECT_EQ(FichierDossier(ctx.etat, "PlanF.fin"), "");
+    EXPECT_EQ(LireFichierInvest(ctx, 'p'), 0);
+    EXPECT_FALSE(std::filesystem::exists("PlanF.fin"));
 }
 
 TEST_F(FichiersDomaineTest, PlansCompteJusquAuDernierLibelle) {
