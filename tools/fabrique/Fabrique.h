@@ -24,8 +24,19 @@ std::string FabriquerCatalogue(const std::vector<Section>& description);
 // The options file: keys named as the options, RepDossier0 ... NomDossier5 for the dossiers.
 std::string FabriquerOptions(const std::vector<Section>& description);
 
-// By the kind of a description file (the extension before ".txt": dossier, don, cfg, par, svg):
-// the name of the file to write and its bytes; nothing for a file that is copied as it is.
+// The dossier's own lists, one section a record in file order: immobilisations and subsidies
+// (imm, sub), loans (emp; yearly arrays as "annuite=" values by year, ";" between), financing
+// plans (fin; sections [1] to [20], missing slots empty), annual crops (clt; series by their
+// names, a record of kind 0 added at the end), perennial crops (cpd, likewise).
+std::string FabriquerImmobilisations(const std::vector<Section>& description);
+std::string FabriquerEmprunts(const std::vector<Section>& description);
+std::string FabriquerPlans(const std::vector<Section>& description);
+std::string FabriquerCultures(const std::vector<Section>& description);
+std::string FabriquerCulturesPerennes(const std::vector<Section>& description);
+
+// By the kind of a description file (the extension before ".txt": dossier, don, cfg, par, svg,
+// imm, sub, emp, fin, clt, cpd): the name of the file to write and its bytes; nothing for a
+// file that is copied as it is.
 struct Fabrication {
     std::string nom;
     std::string octets;

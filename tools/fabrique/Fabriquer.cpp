@@ -20,6 +20,12 @@ std::optional<Fabrication> Fabriquer(const std::string& nomDescription, std::str
     if (genre == "cfg") return Fabrication{souche, FabriquerCatalogue(description)};
     if (genre == "par") return Fabrication{souche, FabriquerParametres(description)};
     if (genre == "svg") return Fabrication{souche, FabriquerOptions(description)};
+    if (genre == "imm" || genre == "sub")
+        return Fabrication{souche, FabriquerImmobilisations(description)};
+    if (genre == "emp") return Fabrication{souche, FabriquerEmprunts(description)};
+    if (genre == "fin") return Fabrication{souche, FabriquerPlans(description)};
+    if (genre == "clt") return Fabrication{souche, FabriquerCultures(description)};
+    if (genre == "cpd") return Fabrication{souche, FabriquerCulturesPerennes(description)};
     return std::nullopt;
 }
 

@@ -1,0 +1,53 @@
+// The sample builder's descriptions of the dossier lists, read back by the program's readers.
+
+#include "Fabrique.h"
+#include "domain/EnrCultures.h"
+#include "domain/EnrInvest.h"
+#include "domain/FichiersDomaine.h"
+
+#include <gtest/gtest.h>
+
+namespace verdane {
+namespace {
+
+TEST(FabriqueDomaine, PlansEmpruntsEtCultures) {
+    const auto plans = fabrique::Fabriquer(
+        "PlanF.fin.txt",
+        "[0]\nlibelle=hors\n[21]\nlibelle=hors\n[x]\nlibelle=hors\n[3]\nlibelle=Hangar "
+        "[H1]\npourcentage=100\nmontantDirect=12,5\n",
+        "");
+    ASSERT_TRUE(plans);
+    EXPECT_EQ(plans->nom, "PlanF.fin");
+    ASSERT_EQ(plans->octets.size(), 20u * 116u);
+    std::array<EnrPlan, EnrPlan::kNbPlans> lus{};
+    EXPECT_EQ(LirePlans(plans->octets, lus), 3);
+    EXPECT_EQ(lus[2].libelle, "Hangar [H1]");
+    EXPECT_EQ(lus[2].montantDirect, 12.5f);
+    EXPECT_EQ(lus[2].numero, 3.0f);
+
+    const auto emprunts = fabrique::Fabriquer(
+        "Emprunt.emp.txt", "[1]\nlibelle=Prêt\nbonifie=-1\nplan=2\nannuite=0;10;20\n[2]\n", "");
+    ASSERT_TRUE(emprunts);
+    ASSERT_EQ(emprunts->octets.size(), 2u * 1096u);
+    const EnrEmprunt e = LireEnrEmprunt(emprunts->octets);
+    EXPECT_EQ(e.libelle.substr(0, 4), "Prêt");
+    EXPECT_EQ(e.bonifie, -1);
+    EXPECT_EQ(e.numPlan, 2);
+    EXPECT_EQ(e.annuite[2], 20.0f);
+
+    const auto cultures =
+        fabrique::Fabriquer("cult.clt.txt", "[a]\ngenre=3\nassolement=1;2;3\n", "");
+    ASSERT_TRUE(cultures);
+    ASSERT_EQ(cultures->octets.size(), 2u * 1674u); // the record, then the end of the list
+    const EnrCulture c = LireEnrCulture(cultures->octets);
+    EXPECT_EQ(c.genre, 3);
+    EXPECT_EQ(c.series[static_cast<std::size_t>(IndexSerieCulture("assolement"))][2], 3.0f);
+    EXPECT_EQ(LireEnrCulture(std::string_view(cultures->octets).substr(1674)).genre, 0);
+    const auto perennes = fabrique::Fabriquer("CltP.cpD.txt", "[v]\nlibelle=Vigne\n", "");
+    ASSERT_TRUE(perennes);
+    EXPECT_EQ(perennes->nom, "CltP.cpD");
+    EXPECT_EQ(LireEnrCulturePerenne(perennes->octets).genre, 1);
+}
+
+} // namespace
+} // namespace verdane

@@ -1,0 +1,183 @@
+#include "domain/FichiersDomaine.h"
+
+#include "DossierDomaine.h"
+#include "domain/PlansFinancement.h"
+#include "utils/Binaire.h"
+#include "utils/OutilsFichiers.h"
+
+namespace verdane::test {
+namespace {
+
+using FichiersDomaineTest = DossierDomaine;
+
+TEST(EnregistrementsDomaine, ChampsAuxPositionsDuFichier) {
+    EnrImmo i;
+    i.nouvelle = 1;
+    i.type = 4;
+    i.libelle = "Tracteur";
+    i.montant = 85000;
+    i.numPlan = 2;
+    i.lsm = -12.5f;
+    i.plusValue1 = 100.25;
+    i.plusValue2 = 3;
+    const std::string oi = EcrireEnrImmo(i);
+    ASSERT_EQ(oi.size(), 3096u);
+    EXPECT_EQ(LecteurBinaire(oi, 12).I32(), 4);
+    EXPECT_EQ(oi.substr(16, 8), "Tracteur");
+    EXPECT_EQ(LecteurBinaire(oi, 66).F32(), 85000.0f);
+    EXPECT_EQ(LecteurBinaire(oi, 92).F32(), 2.0f);
+    EXPECT_EQ(LecteurBinaire(oi, 100).F32(), -12.5f);
+    EXPECT_EQ(LecteurBinaire(oi, 114).F64(), 100.25);
+    EXPECT_EQ(LecteurBinaire(oi, 122).F64(), 3.0);
+    const EnrImmo relu = LireEnrImmo(oi);
+    EXPECT_EQ(relu.plusValue1, 100.25);
+    EXPECT_EQ(relu.lsm, -12.5f);
+
+    EnrEmprunt e;
+    e.type = 2;
+    e.bonifie = -1;
+    e.montant = 50000;
+    e.periode = 6;
+    e.numPlan = 3;
+    e.annuite[26] = 7;
+    e.capitalRestant[0] = 9;
+    e.echeance2 = 11;
+    const std::string oe = EcrireEnrEmprunt(e);
+    ASSERT_EQ(oe.size(), 1096u);
+    EXPECT_EQ(LecteurBinaire(oe, 12).I16(), 2);
+    EXPECT_EQ(LecteurBinaire(oe, 56).I16(), -1);
+    EXPECT_EQ(LecteurBinaire(oe, 98).F32(), 50000.0f);
+    EXPECT_EQ(LecteurBinaire(oe, 136).F32(), 6.0f);
+    EXPECT_EQ(LecteurBinaire(oe, 160).I16(), 3);
+    EXPECT_EQ(LecteurBinaire(oe, 192 + 26 * 4).F32(), 7.0f);
+    EXPECT_EQ(LecteurBinaire(oe, 732).F32(), 9.0f);
+    EXPECT_EQ(LecteurBinaire(oe, 1064).F32(), 11.0f);
+
+    EnrCulture c;
+    c.numero = 3;
+    c.genre = 4;
+    c.derobee = -1;
+    c.series[static_cast<std::size_t>(IndexSerieCulture("creance"))][10] = 42;
+    c.series[static_cast<std::size_t>(IndexSerieCulture("assolement"))][0] = 12;
+    const std::string oc = EcrireEnrCulture(c);
+    ASSERT_EQ(oc.size(), 1674u);
+    EXPECT_EQ(LecteurBinaire(oc, 40).I16(), 4);
+    EXPECT_EQ(LecteurBinaire(oc, 38).I16(), -1);
+    EXPECT_EQ(LecteurBinaire(oc, 86).F32(), 12.0f);
+    EXPECT_EQ(LecteurBinaire(oc, 1630 + 40).F32(), 42.0f);
+    EXPECT_EQ(EcrireEnrPlan(EnrPlan{}).size(), 116u);
+    EXPECT_EQ(EcrireEnrCulturePerenne(EnrCulturePerenne{}).size(), 52u);
+}
+
+TEST_F(FichiersDomaineTest, FichiersAbsentsVidesOuTronques) {
+    EXPECT_EQ(LireFichierInvest(ctx, 'i'), 0);
+    EXPECT_EQ(LireFichierInvest(ctx, 'e'), 0);
+    EXPECT_EQ(LireFichierInvest(ctx, 'x'), 0);
+    d.Ecrire("Ferme/Sub.sub", "");
+    EXPECT_EQ(LireFichierInvest(ctx, 's'), 0);
+    // Two records and half of a third: the cut record isn't read.
+    std::string deux = EcrireEnrImmo(Immo("a", 1, 0)) + EcrireEnrImmo(Immo("b", 2, 1));
+    d.Ecrire("Ferme/Immo.imm", deux + EcrireEnrImmo(Immo("c", 3, 1)).substr(0, 1500));
+    EXPECT_EQ(LireFichierInvest(ctx, 'i'), 2);
+    EXPECT_EQ(ctx.etat.domaine.immobilisations[1].montant, 2.0f);
+    d.Ecrire("Ferme/Emprunt.emp", std::string(1095, '\xff'));
+    EXPECT_EQ(LireFichierInvest(ctx, 'e'), 0);
+    EXPECT_TRUE(LireCultures(ctx.etat).empty());
+    EXPECT_TRUE(LireCulturesPerennes(ctx.etat).empty());
+    EXPECT_TRUE(LireModulesAnimaux(ctx.etat).empty());
+}
+
+TEST_F(FichiersDomaineTest, PlanAbsentCreeAvecVingtEmplacements) {
+    EXPECT_EQ(LireFichierInvest(ctx, 'p'), 0);
+    const std::string cree = d.Lire("Ferme/PlanF.fin");
+    ASSERT_EQ(cree.size(), 20u * 116u);
+    EXPECT_EQ(cree.substr(4, 50), std::string(50, ' '));
+    // A dossier whose folder isn't there gets no file.
+    ctx.etat.NomDossier[0] = "Absent";
+    EXPECT_EQ(LireFichierInvest(ctx, 'p'), 0);
+    EXPECT_FALSE(std::filesystem::exists(d.Chemin() / "Absent"));
+    // No dossier chosen at all: nothing is read and nothing is made.
+    ctx.etat.RepDossier[0] = "  ";
+    EXPECT_EQ(FichierDossier(ctx.etat, "PlanF.fin"), "");
+    EXPECT_EQ(LireFichierInvest(ctx, 'p'), 0);
+    EXPECT_FALSE(std::filesystem::exists("PlanF.fin"));
+}
+
+TEST_F(FichiersDomaineTest, PlansCompteJusquAuDernierLibelle) {
+    Plans({Plan("Bâtiment"), Plan(""), Plan("  "), Plan("Matériel [MAT1]")});
+    EXPECT_EQ(LireFichierInvest(ctx, 'p'), 4);
+    EXPECT_EQ(ctx.etat.domaine.plans[0].libelle, "Bâtiment");
+    // A file of 3 slots and a half: the rest are empty slots.
+    d.Ecrire("Ferme/PlanF.fin", EcrireEnrPlan(Plan("x")) + std::string(60, 'z'));
+    EXPECT_EQ(LireFichierInvest(ctx, 'p'), 1);
+}
+
+TEST_F(FichiersDomaineTest, RattachementAuxPlans) {
+    Plans({Plan("Stabulation"), Plan("Reprise", 100, 120000)});
+    std::vector<EnrImmo> immos;
+    for (int i = 0; i < 60; ++i) immos.push_back(Immo("Bât.", 1000, 1, 1));
+    immos.push_back(Immo("Hors plan", 5, 1, 21));
+    immos.push_back(Immo("Plan négatif", 5, 1, -1));
+    Immos(immos);
+    Emprunts({Emprunt("Prêt", 1000, 1, 2), Emprunt("Sans plan", 1, 1, 0)});
+    LireFichiersInvest(ctx);
+    const auto plans = RassemblerPlans(ctx.etat.domaine);
+    ASSERT_EQ(plans.size(), 2u);
+    EXPECT_EQ(plans[0].immobilisations.size(), 50u);
+    EXPECT_EQ(plans[0].investissements.size(), 50u);
+    // A plan at 100 %: its direct amount on one line, no immobilisation needed.
+    EXPECT_EQ(plans[1].investissements, std::vector<float>{120000});
+    EXPECT_EQ(plans[1].emprunts.size(), 1u);
+}
+
+TEST(LibellePlan, CodeEntreCrochets) {
+    EXPECT_EQ(LireLibellePlan("Bâtiment [AB12] neuf").libelle, "Bâtiment");
+    EXPECT_EQ(LireLibellePlan("Bâtiment [AB12] neuf").code, "AB12");
+    EXPECT_EQ(LireLibellePlan("Séchoir [AB12 à finir").libelle, "Séchoir [AB12 à finir");
+    EXPECT_EQ(LireLibellePlan("Séchoir [AB12 à finir").code, "");
+    EXPECT_EQ(LireLibellePlan("Éàùçôïë").libelle, "Éàùçôïë");
+    EXPECT_EQ(LireLibellePlan("[X]").code, "X]");
+}
+
+TEST_F(FichiersDomaineTest, ListesDeCulturesFinissentAuGenreZero) {
+    EnrCulture a, b, fin, apres;
+    a.genre = 1;
+    a.libelle = "Blé";
+    b.genre = 3;
+    apres.genre = 2;
+    Cultures({a, b, fin, apres});
+    EXPECT_EQ(LireCultures(ctx.etat).size(), 2u);
+    // No kind 0 at all: every whole record, the cut one left out.
+    std::string octets = EcrireEnrCulture(a) + EcrireEnrCulture(b) + EcrireEnrCulture(a);
+    d.Ecrire("Ferme/cult.clt", octets.substr(0, octets.size() - 10));
+    EXPECT_EQ(LireCultures(ctx.etat).size(), 2u);
+    EnrCulturePerenne p, q;
+    p.genre = 1;
+    q.genre = -3;
+    Perennes({p, p, q, p});
+    d.Ecrire("Ferme/CLTP.CPD", d.Lire("Ferme/CltP.cpD"));
+    EXPECT_EQ(LireCulturesPerennes(ctx.etat).size(), 2u);
+}
+
+TEST_F(FichiersDomaineTest, FichiersDonEtModules) {
+    EXPECT_EQ(NomFichier(FichierDonCulture(ctx.etat, 3, false)), "Cult3.don");
+    EXPECT_EQ(NomFichier(FichierDonCulture(ctx.etat, 12, true, true)), "CltP12t.don");
+    EXPECT_EQ(NomFichier(FichierDonModule(ctx.etat, 5)), "AL05AL.don");
+    EXPECT_EQ(NomFichier(FichierDonModule(ctx.etat, 12)), "AL12AL.don");
+    Don("Cult3.don", {{2, {1, 2, 3}}});
+    const Texte f = FichierDonCulture(ctx.etat, 3, false);
+    EXPECT_EQ(ValeurDon(f, 2, 2), 3.0f);
+    EXPECT_EQ(ValeurDon(f, 2, 14), 0.0f);
+    EXPECT_EQ(ValeurDon(f, 2, -1), 0.0f);
+    EXPECT_FALSE(ValeurDon(f, 3, 1));
+    d.Ecrire("Ferme/ModAniLib.ini",
+             "[GLOBAL]\r\nNumLastMod=100000\r\n[MOD2]\r\nACTIF=1\r\nNom=Porcs\r\n");
+    const auto modules = LireModulesAnimaux(ctx.etat);
+    ASSERT_EQ(modules.size(), 99u);
+    EXPECT_TRUE(modules[1].actif);
+    EXPECT_EQ(modules[1].nom, "Porcs");
+    EXPECT_FALSE(modules[0].actif);
+}
+
+} // namespace
+} // namespace verdane::test

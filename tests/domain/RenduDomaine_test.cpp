@@ -1,0 +1,85 @@
+// The domain tables through the table walker: a document's table codes with crop, activity
+// and investment lines.
+
+#include "DossierDomaine.h"
+#include "domain/LignesDomaineMarlo.h"
+#include "domain/TabsActiLibres.h"
+#include "domain/TabsCultures.h"
+#include "tables/GenererTableau.h"
+
+namespace verdane::test {
+namespace {
+
+constexpr const char* kFormat = ";5006;10;1;0;0;0;0;0;r;1;1;1;1;8";
+
+std::string L(const std::string& libelle, const std::string& definition) {
+    return "[280;120][" + libelle + kFormat + "][" + definition + kFormat + "]";
+}
+
+class RenduDomaineTest : public DossierDomaine {
+protected:
+    RenduDomaineTest() {
+        ctx.etat.nbAnEtude = 2;
+        BrancherDomaine(ctx);
+        EnrCulture ble, prairie;
+        ble.numero = 1;
+        ble.genre = 1;
+        ble.libelle = "Blé tendre";
+        prairie.numero = 2;
+        prairie.genre = 3;
+        prairie.libelle = "Prairie";
+        const auto a = static_cast<std::size_t>(IndexSerieCulture("assolement"));
+        ble.series[a] = {0, 40, 45};
+        prairie.series[a] = {0, 20, 25};
+        Cultures({ble, prairie});
+        Don("Cult1.don", {{14, {0, 650, 700}}});
+        Don("Cult2.don", {{14, {0, -120, -130}}});
+    }
+};
+
+TEST_F(RenduDomaineTest, LignesParCultureDansUnTableau) {
+    const std::string rtf = GenererTableau(ctx, "tabp1;larg2000;larg4000(" +
+                                                    L("Surfaces", "cultu:assolement:0:0") + ")");
+    EXPECT_NE(rtf.find(" Blé tendre}"), std::string::npos);
+    EXPECT_NE(rtf.find(" Prairie}"), std::string::npos);
+    EXPECT_NE(rtf.find(" Cultures de vente}"), std::string::npos);
+    EXPECT_NE(rtf.find(" 45}\\cell"), std::string::npos);
+    EXPECT_EQ(Compter(rtf, "\\row"), 5);
+}
+
+TEST_F(RenduDomaineTest, TableauRepeteParCultureAvecSesValeurs) {
+    const std::string rtf = TableauCultures(ctx, "culture2tabp1;larg2000;larg4000(" +
+                                                     L("Marge", "scult:@14:0:0") + ")");
+    EXPECT_NE(rtf.find("ACTIVITE :}\\cell"), std::string::npos);
+    EXPECT_NE(rtf.find(" 650}\\cell"), std::string::npos);
+    EXPECT_NE(rtf.find(" -130}\\cell"), std::string::npos);
+    // The fourragère's margin is a net cost; header form 2 keeps the line's label otherwise.
+    const auto prairie = rtf.find(" Prairie}");
+    EXPECT_LT(rtf.find(" Marge}"), prairie);
+    EXPECT_NE(rtf.find(" Coût net op.}", prairie), std::string::npos);
+    EXPECT_EQ(rtf.find(" Marge}", prairie), std::string::npos);
+    EXPECT_EQ(CodeCoutNetOp("tab([1;2][A;f][scult:@145;f]#[1;2][B;f][scult:@15:0;f])"),
+              "tab([1;2][A;f][scult:@145;f]#[1;2][Coût_net_op.;f][scult:@15:0;f])");
+    EXPECT_EQ(CodeCoutNetOp("tab([scult:@14]"), "tab([scult:@14]");
+    EXPECT_EQ(CodeCoutNetOp("tab[[]#"), "tab[[]#");
+}
+
+TEST_F(RenduDomaineTest, ActivitesEtInvestissements) {
+    d.Ecrire("Ferme/ModAniLib.ini",
+             "[GLOBAL]\r\nNumLastMod=1\r\n[MOD1]\r\nACTIF=1\r\nNom=Ovins\r\n");
+    Don("AL01AL.don", {{159, {0, 35.5f, 36}}});
+    const std::string rtf = TableauActivites(ctx, "actlibr0tabp1;larg2000;larg4000(" +
+                                                      L("UGB", "ALani:@159:1:0") + ")");
+    EXPECT_NE(rtf.find(" 35,5}\\cell"), std::string::npos);
+    EXPECT_NE(rtf.find(" 36,0}\\cell"), std::string::npos);
+
+    Immos({Immo("Tracteur", 50000, 1)});
+    const std::string immo =
+        GenererTableau(ctx, "tabp1;larg2000;larg4000(" + L("", "imemp:immo0:0") + ")");
+    EXPECT_NE(immo.find(" tracteur }\\cell"), std::string::npos);
+    EXPECT_NE(immo.find(" 50 000}\\cell"), std::string::npos);
+    EXPECT_NE(immo.find("\\trgaph5"), std::string::npos);
+}
+
+} // namespace
+} // namespace verdane::test

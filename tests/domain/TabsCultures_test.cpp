@@ -1,0 +1,234 @@
+#include "domain/TabsCultures.h"
+
+#include "DossierDomaine.h"
+#include "domain/TabsActiLibres.h"
+#include "utils/Chaines.h"
+
+namespace verdane::test {
+namespace {
+
+class TabsCulturesTest : public DossierDomaine {
+protected:
+    TabsCulturesTest() {
+        ctx.etat.nbAnEtude = 3;
+        TableauModele t;
+        t.largeurs[0] = 2000;
+        t.largeurValeurs = 6000;
+        LigneModele l;
+        l.definition = "cultu:assolement:1:0";
+        t.lignes = {l};
+        ctx.etat.tableaux.TableauxCourants = {t};
+    }
+    static EnrCulture Culture(const char* libelle, int genre, float numero, float surface) {
+        EnrCulture c;
+        c.libelle = libelle;
+        c.genre = static_cast<std::int16_t>(genre);
+        c.numero = numero;
+        auto& a = c.series[static_cast<std::size_t>(IndexSerieCulture("assolement"))];
+        for (std::size_t k = 0; k < a.size(); ++k) a[k] = surface + static_cast<float>(k);
+        return c;
+    }
+    void Definition(const char* def) {
+        ctx.etat.tableaux.TableauxCourants[0].lignes[0].definition = def;
+    }
+    std::string Lignes() { return LignesCultures(ctx, 1, "\\plain \\trowd\\trleft0"); }
+};
+
+TEST_F(TabsCulturesTest, AssolementParGroupesAvecTotaux) {
+    Cultures({Culture("Maïs ensilage", 3, 1, 20), Culture("Blé", 1, 2, 30),
+              Culture("Orge", 2, 3, 10), Culture("Inconnue", 7, 4, 99), EnrCulture{},
+              Culture("Après la fin", 1, 5, 1000)});
+    const std::string rtf = Lignes();
+    const auto ble = rtf.find(" Blé}"), orge = rtf.find(" Orge}"),
+               vente = rtf.find(" Cultures de vente}");
+    const auto mais = rtf.find(" Maïs ensilage}"), fourr = rtf.find(" Cult. fourragères}");
+    const auto marai = rtf.find(" Cult. maraîchères}");
+    ASSERT_NE(marai, std::string::npos);
+    EXPECT_LT(ble, orge);
+    EXPECT_LT(orge, vente);
+    EXPECT_LT(vente, mais);
+    EXPECT_LT(mais, fourr);
+    EXPECT_LT(fourr, marai);
+    EXPECT_EQ(rtf.find("Inconnue"), std::string::npos);
+    EXPECT_EQ(rtf.find("Après"), std::string::npos);
+    // Years 1 to 3 of the sums: vente 31+11, 32+12, 33+13 at one decimal, in bold.
+    EXPECT_NE(rtf.find("\\b 42,0}\\cell"), std::string::npos);
+    EXPECT_NE(rtf.find("\\b 46,0}\\cell"), std::string::npos);
+    EXPECT_NE(rtf.find(" 21,0}\\cell"), std::string::npos);
+    EXPECT_EQ(rtf.find(" 20,0}"), std::string::npos); // year 0 isn't shown
+    EXPECT_EQ(Compter(rtf, "\\cellx"), 6 * 4);
+    EXPECT_NE(rtf.find("\\cellx8000"), std::string::npos);
+    EXPECT_EQ(SerieCultureParNom(ctx.etat.domaine, "totalvente", 2), 44.0f);
+    EXPECT_EQ(SerieCultureParNom(ctx.etat.domaine, "TotalMarai:1", 1), 0.0f);
+}
+
+TEST_F(TabsCulturesTest, SeulementFourrageresEtSansAssol) {
+    Cultures({Culture("Prairie", 3, 1, 5)});
+    std::string rtf = Lignes();
+    EXPECT_NE(rtf.find(" Cultures de vente}"), std::string::npos);
+    EXPECT_NE(rtf.find(" Cult. maraîchères}"), std::string::npos);
+    // The sale total is 0: an empty cell.
+    EXPECT_NE(rtf.find("Cultures de vente}\\cell\\ql\\intbl\\clvertalb{\\fs20\\f5006\\cf1\\b  }"),
+              std::string::npos);
+    Definition("cultu:rendement:0");
+    rtf = Lignes();
+    EXPECT_EQ(rtf.find("Cultures de vente"), std::string::npos);
+    EXPECT_EQ(Compter(rtf, "\\row"), 1);
+    d.Ecrire("Ferme/cult.clt", "");
+    EXPECT_EQ(Lignes(), "");
+    EXPECT_EQ(LignesCultures(ctx, 2, ""), "");
+    EXPECT_EQ(LignesCultures(ctx, 0, ""), "");
+}
+
+TEST_F(TabsCulturesTest, CodesArobaseEtComposites) {
+    ctx.etat.domaine.numCulture = 7;
+    ctx.etat.domaine.cultureCourante.genre = 2;
+    Don("Cult7.don", {{1, {0, 10, 20}},
+                      {15, {0, 5}},
+                      {16, {0, 10}},
+                      {17, {0, 15}},
+                      {19, {0, 1.5f}},
+                      {20, {0, 3}},
+                      {82, {7, 8, 9}},
+                      {5, {0, 4}},
+                      {6, {0, 10}}});
+    Don("Cult7t.don", {{46, {0, 4}}, {70, {0, 10}}});
+    auto v = [&](const char* c, int annee = 1) {
+        return NombreArobaseCulture(ctx.etat, c, annee, false);
+    };
+    EXPECT_EQ(v("15+16+17/1"), 3.0f);
+    EXPECT_EQ(v("@15+16+17/1:2"), 3.0f);
+    EXPECT_EQ(v("15+16+17/1", 3), 0.0f); // division by a zero surface
+    EXPECT_EQ(v("82a-1", 1), 7.0f);
+    EXPECT_EQ(v("82a-1", 0), 0.0f);
+    EXPECT_EQ(v("6-5"), 6.0f);
+    EXPECT_EQ(v("70/46t"), 2.5f);
+    EXPECT_EQ(v("70t"), 10.0f);
+    EXPECT_EQ(v("18"), 1.5f); // kind 2 reads record 19
+    ctx.etat.domaine.cultureCourante.genre = 1;
+    EXPECT_EQ(v("18"), 15.0f); // kind 1 reads record 17
+    EXPECT_EQ(v("19"), 3.0f);
+    EXPECT_EQ(v("17"), 15.0f);
+    EXPECT_EQ(v("n'importe quoi"), 0.0f);
+    EXPECT_EQ(v("999"), 0.0f);
+    EXPECT_EQ(ValeurArobaseCulture(ctx, "16:2", 1, false), "10,00");
+    EXPECT_EQ(ValeurArobaseCulture(ctx, "16", 1, false), "10");
+    ctx.etat.domaine.numCulturePerenne = 2;
+    Don("CltP2.don", {{1, {0, 3.25f}}});
+    EXPECT_EQ(ValeurArobaseCulture(ctx, "assolemper:1", 1, true), "3,2");
+    EXPECT_EQ(ValeurArobaseCulture(ctx, "1", 1, true), "3,25");
+}
+
+TEST_F(TabsCulturesTest, LibelleCoutNetPourFourrageres) {
+    TableauModele t;
+    LigneModele l;
+    l.definition = "scult:@14:0";
+    ctx.etat.domaine.libelleCulture = "Maïs                   ";
+    ctx.etat.domaine.cultureCourante.genre = 3;
+    t.typeEntete = 2;
+    EXPECT_EQ(LibelleLigneCulture(ctx.etat, t, l, 1, "Marge"), "Coût net op.");
+    EXPECT_EQ(LibelleLigneCulture(ctx.etat, t, l, 2, "Marge"), "Marge");
+    ctx.etat.domaine.cultureCourante.genre = 1;
+    EXPECT_EQ(LibelleLigneCulture(ctx.etat, t, l, 1, "Marge"), "Marge");
+    t.typeEntete = 1;
+    EXPECT_EQ(LibelleLigneCulture(ctx.etat, t, l, 1, "Marge"), "Maïs");
+    l.definition = "serie:X.don+X-1";
+    EXPECT_EQ(LibelleLigneCulture(ctx.etat, t, l, 1, "Marge"), "Marge");
+}
+
+TEST_F(TabsCulturesTest, TableauRepeteParCulture) {
+    ctx.etat.decalageCouleurs = 1;
+    ctx.etat.enrDossier.devise = 1;
+    EnrCulture ble = Culture("Blé", 1, 2, 30);
+    ble.unite = "0";
+    ble.derobee = 0;
+    Cultures({ble, Culture("Chou", 4, 5, 1)});
+    Don("Cult2.don", {{17, {0, 1234}}});
+    std::vector<std::string> vus;
+    const RenduTableau rendu = [&](Contexte& c, const Texte& code) {
+        vus.push_back(Rogner(c.etat.domaine.libelleCulture) + "|" + code);
+        return Texte("[table]");
+    };
+    const std::string rtf = TableauCultures(ctx, "culture13tab(x)", rendu);
+    EXPECT_EQ(vus, (std::vector<std::string>{"Blé|culture13tab(x)", "Chou|culture13tab(x)"}));
+    EXPECT_NE(rtf.find("\\qr\\fs20\\cf2\\b 3-1\\par \\plain "), std::string::npos);
+    EXPECT_NE(rtf.find("\\qr\\fs20\\cf2\\b 3-2\\par \\plain "), std::string::npos);
+    EXPECT_NE(rtf.find("\\b     Blé" + std::string(50, ' ') + "Culture de vente principale\\par"),
+              std::string::npos);
+    EXPECT_NE(rtf.find("Unité : qx/ha"), std::string::npos);
+    EXPECT_NE(rtf.find("Valeur stock : 1 234 €"), std::string::npos);
+    EXPECT_NE(rtf.find("Valeur stock :  €"), std::string::npos); // Cult5.don missing
+    EXPECT_NE(rtf.find("Cult. maraîchère"), std::string::npos);
+    vus.clear();
+    const std::string bande = TableauCultures(ctx, "culture2tab(x)", rendu);
+    EXPECT_EQ(bande.find("3-"), std::string::npos);
+    EXPECT_NE(bande.find("\\cellx1500 "), std::string::npos);
+    EXPECT_NE(bande.find("\\b ACTIVITE :}\\cell\\ql\\intbl\\clvertalb{\\fs20\\cf2 "
+                         "Chou}\\cell\\row\\pard\\plain "),
+              std::string::npos);
+    EXPECT_EQ(TableauCultures(ctx, "culture0tab(x)", rendu), "[table][table]");
+}
+
+TEST_F(TabsCulturesTest, PerennesSansDonneesSautees) {
+    EnrCulturePerenne vigne, verger, vide;
+    vigne.genre = verger.genre = vide.genre = 1;
+    vigne.numero = 1;
+    vigne.libelle = "Vigne";
+    vigne.pleineProduction = 4;
+    vigne.dureeAmortissement = 25;
+    verger.numero = 2;
+    vide.numero = 3;
+    Perennes({vigne, verger, vide});
+    Don("CltP1.don", {{74, {0, 0, 0, 0, 0, 0, 5}}});
+    Don("CltP3.don", {{74, {9, 0, 0, 0, 0, 0, 0, 9}}});
+    int fois = 0;
+    const std::string rtf = TableauCultures(ctx, "cultper1tab(x)", [&](Contexte& c, const Texte&) {
+        ++fois;
+        return Texte(c.etat.domaine.libelleCulturePerenne);
+    });
+    EXPECT_EQ(fois, 1);
+    EXPECT_NE(rtf.find("Caractéristiques :"), std::string::npos);
+    EXPECT_NE(rtf.find("Pleine production : 4 ans"), std::string::npos);
+    EXPECT_NE(rtf.find("Durée d'amortissement : 25 ans\\par\\plain "), std::string::npos);
+    ctx.etat.domaine.ignorerPerennesVides = false;
+    fois = 0;
+    TableauCultures(ctx, "cultper1tab(x)",
+                    [&](Contexte&, const Texte&) { return ++fois, Texte(); });
+    EXPECT_EQ(fois, 2); // CltP2.don is missing
+}
+
+TEST_F(DossierDomaine, ActivitesAnimales) {
+    d.Ecrire("Ferme/ModAniLib.ini",
+             "[GLOBAL]\r\nNumLastMod=3\r\n[MOD1]\r\nACTIF=0\r\nNom=Ovins\r\n"
+             "[MOD2]\r\nACTIF=1\r\nNom=Porcs plein air \r\n[MOD3]\r\nNom=Lapins\r\n");
+    Don("AL02AL.don", {{156, {0, 12.5f, 13}}});
+    std::vector<std::string> vus;
+    const std::string rtf =
+        TableauActivites(ctx, "actlibr15tab(x)", [&](Contexte& c, const Texte&) {
+            vus.push_back(ValeurActivite(c, "@156:1", 1) + "|" + ValeurActivite(c, "156", 2));
+            return Texte();
+        });
+    EXPECT_EQ(vus, std::vector<std::string>{"12,5|13"});
+    EXPECT_NE(rtf.find("\\b 5-1\\par \\plain "), std::string::npos);
+    EXPECT_NE(rtf.find("\\ql\\fs28\\cf1\\b\\ul Porcs plein air\\par \\plain \\par \\plain "),
+              std::string::npos);
+    EXPECT_TRUE(u.messages.empty());
+
+    ctx.etat.domaine.numModuleAnimal = 12;
+    ctx.etat.domaine.moduleSignale = 0;
+    EXPECT_EQ(ValeurActivite(ctx, "156:0", 1), "0");
+    EXPECT_EQ(ValeurActivite(ctx, "157:0", 1), "0");
+    ASSERT_EQ(u.messages.size(), 1u);
+    EXPECT_EQ(u.messages[0].titre, "Données des activ. libres animales introuvable !");
+    EXPECT_EQ(u.messages[0].texte, "Le fichier AL12AL.don contenant les données à récupérer pour "
+                                   "construire le document RTF est introuvable !");
+    EXPECT_EQ(
+        u.messages[0].technique.rfind("Répertoire de recherche (dossier Marlo en cours) : ", 0),
+        0u);
+    EXPECT_EQ(ValeurActivite(ctx, "abc", 1), "0");
+    d.Ecrire("Ferme/ModAniLib.ini", "");
+    EXPECT_EQ(TableauActivites(ctx, "actlibr1tab(x)", nullptr), "");
+}
+
+} // namespace
+} // namespace verdane::test

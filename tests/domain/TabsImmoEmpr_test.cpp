@@ -1,0 +1,223 @@
+#include "domain/TabsImmoEmpr.h"
+
+#include "DossierDomaine.h"
+#include "domain/CadreDomaine.h"
+#include "tables/LectureCode.h"
+
+#include <regex>
+
+namespace verdane::test {
+namespace {
+
+class TabsImmoEmprTest : public DossierDomaine {
+protected:
+    TabsImmoEmprTest() { ctx.etat.decalageCouleurs = 3; }
+    // The \cellx edges of the first row that follows `depuis`.
+    static std::vector<int> Bords(const std::string& rtf, std::size_t depuis = 0) {
+        std::vector<int> b;
+        const auto fin = rtf.find("\\row", depuis);
+        const std::regex re("\\\\cellx(\\d+)");
+        const std::string ligne = rtf.substr(depuis, fin - depuis);
+        for (std::sregex_iterator it(ligne.begin(), ligne.end(), re), e; it != e; ++it)
+            b.push_back(std::stoi((*it)[1]));
+        return b;
+    }
+    std::string Rendre(const std::string& code) {
+        return TableauImemp(ctx, code, "\\plain \\trowd\\trgaph120\\trrh280\\trleft0");
+    }
+};
+
+TEST(CadreDomaine, Durees) {
+    EXPECT_EQ(TexteDuree(18, false, 0), "1 an 6 mois");
+    EXPECT_EQ(TexteDuree(24, false, 0), "2 ans");
+    EXPECT_EQ(TexteDuree(6, false, 0), " 6 mois");
+    EXPECT_EQ(TexteDuree(0, false, 0), "");
+    EXPECT_EQ(TexteDuree(40, true, 3), "40 trimestre");
+    EXPECT_EQ(TexteDuree(1, true, 12), "1 ans");
+    EXPECT_EQ(TexteDuree(7, true, 5), "7 mois");
+    EXPECT_EQ(TexteDuree(0, true, 3), "");
+    EXPECT_EQ(TexteDuree(std::numeric_limits<float>::quiet_NaN(), false, 0), "");
+    EXPECT_EQ(TexteDuree(1e30f, true, 2), "");
+}
+
+TEST(CadreDomaine, CelluleEtRegleDeFin) {
+    Etat etat;
+    etat.decalageCouleurs = 2;
+    Texte def, corps;
+    CelluleFixe c;
+    c.haut = "1";
+    c.droite = "2";
+    c.gras = true;
+    c.souligne = true;
+    c.alignement = "r";
+    AjouterCelluleFixe(etat, def, corps, c, 1500);
+    EXPECT_EQ(def, " \\clbrdrt\\brdrs \\clbrdrr\\brdrdb\\clvertalc\\clcbpat10\\cellx1500");
+    EXPECT_EQ(corps, "\\qr\\intbl\\clvertalb{\\fs16\\f5006\\cf3\\b\\ul");
+    EXPECT_EQ(c.police, "5006"); // written back
+    const Texte fin = FinDeTableau(etat, 6800);
+    EXPECT_EQ(fin.rfind("\\trowd\\trgaph5\\trrh50\\trqc", 0), 0u);
+    EXPECT_NE(fin.find("\\cellx6800"), Texte::npos);
+    EXPECT_NE(fin.find("\\cellx9500"), Texte::npos);
+    EXPECT_EQ(FinDeTableau(etat, 9500).find("\\cellx6800"), Texte::npos);
+    EXPECT_EQ(DateCourte("15/03/2024"), "15/03/24");
+    EXPECT_EQ(DateCourte(" **/**/**** "), "**/**/****");
+}
+
+TEST(CadreDomaine, LibellesDeListe) {
+    EXPECT_EQ(LibelleListe("  STABULATION  ", 21), "stabulation ");
+    EXPECT_EQ(LibelleListe("abcdefghijklmnopqrstuv", 21), "abcdefghijklmnopqrstuv ");
+    EXPECT_EQ(LibelleListe("abcdefghijklmnopqrstuvw", 21), "abcdefghijklmnopqrstu.");
+    EXPECT_EQ(LibelleListe("abcdefghijklmnopqrst uvw", 21), "abcdefghijklmnopqrst ");
+    EXPECT_EQ(LibelleListe("abcdefghijklmnopqrstuvw", 22), "abcdefghijklmnopqrstuv.");
+    EXPECT_EQ(LibelleListe("ÉTABLE À VEAUX ÇÀ ET LÀ ÊÔ", 21), "étable à veaux çà et ");
+}
+
+TEST_F(TabsImmoEmprTest, ListeVideTitresEtRegle) {
+    const std::string rtf = Rendre("imemp:immo2");
+    const auto anciennes =
+        rtf.find("\\ql\\fs20\\cf4\\b\\i\\ul Immobilisations anciennes\\par \\plain ");
+    const auto nouvelles =
+        rtf.find("\\ql\\fs20\\cf4\\b\\i\\ul Immobilisations nouvelles\\par \\plain ");
+    ASSERT_NE(anciennes, std::string::npos);
+    ASSERT_NE(nouvelles, std::string::npos);
+    EXPECT_LT(anciennes, nouvelles);
+    EXPECT_EQ(Bords(rtf),
+              (std::vector<int>{1500, 2400, 3300, 4000, 4700, 5500, 6100, 6900, 7800, 8700, 9500}));
+    EXPECT_NE(rtf.find("\\trgaph5\\trrh280"), std::string::npos);
+    EXPECT_EQ(rtf.find("\\trgaph120"), std::string::npos);
+    EXPECT_NE(rtf.find("Date réalisat."), std::string::npos);
+    EXPECT_NE(rtf.find("\\trowd\\trgaph5\\trrh50\\trqc"), std::string::npos);
+    EXPECT_EQ(Rendre("imemp"), "");
+    EXPECT_EQ(Rendre("imemp:xxxxx"), "");
+    EXPECT_EQ(Rendre("imemp:"), "");
+}
+
+TEST_F(TabsImmoEmprTest, ImmobilisationsParGroupe) {
+    EnrImmo vieille = Immo("Hangar", 30000, 0);
+    vieille.type = 0;
+    vieille.duree = 0;
+    vieille.amortissement = 1;
+    vieille.lsm = -250;
+    EnrImmo neuve = Immo("Salle de traite 2x8 avec décrochage", 98765.4f, 1);
+    neuve.type = 6;
+    neuve.duree = 15;
+    neuve.amortissement = 9;
+    neuve.plusValue1 = 100;
+    neuve.plusValue2 = 50;
+    EnrImmo autre = Immo("Bizarre", 1, 7);
+    Immos({vieille, neuve, autre});
+    ctx.etat.tableaux.TableauxCourants.assign(1, TableauModele{});
+    ctx.etat.tableaux.TableauxCourants[0].rouge = 1;
+
+    const std::string nouvelles = Rendre("imemp:immo0:0");
+    EXPECT_NE(nouvelles.find("Immobilisations nouvelles\\par \\plain \\par \\plain "),
+              std::string::npos);
+    EXPECT_EQ(nouvelles.find("hangar"), std::string::npos);
+    EXPECT_NE(nouvelles.find(" salle de traite 2x8 a.}\\cell"), std::string::npos);
+    EXPECT_NE(nouvelles.find(" 98 765}\\cell"), std::string::npos);
+    EXPECT_NE(nouvelles.find(" D}\\cell"), std::string::npos);
+    EXPECT_NE(nouvelles.find(" 15}\\cell"), std::string::npos);
+    EXPECT_NE(nouvelles.find(" 150}\\cell"), std::string::npos);
+    EXPECT_NE(nouvelles.find(" 15/03/25}\\cell"), std::string::npos);
+    EXPECT_EQ(nouvelles.find("bizarre"), std::string::npos);
+
+    const std::string anciennes = Rendre("imemp:immo1:0");
+    EXPECT_NE(anciennes.find(" hangar }\\cell"), std::string::npos);
+    EXPECT_NE(anciennes.find(" F}\\cell"), std::string::npos);
+    EXPECT_NE(anciennes.find(" Dég.}\\cell"), std::string::npos);
+    // LSM negative, red with the table's flag: colour 6 + 3.
+    EXPECT_NE(anciennes.find("\\cf9 -250}\\cell"), std::string::npos);
+    // The title's paragraphs before the header, then one paragraph opening the group.
+    EXPECT_EQ(Compter(anciennes, "\\par \\plain \\plain \\trowd"), 2);
+    const std::string tout = Rendre("imemp:immos");
+    EXPECT_LT(tout.find("hangar"), tout.find("salle"));
+}
+
+TEST_F(TabsImmoEmprTest, SubventionsEtEmprunts) {
+    EnrImmo s = Immo("DJA", 22000, 1);
+    s.type = 1;
+    s.dateRevente = "01/01/2030";
+    Subs({s});
+    const std::string sub = Rendre("imemp:subv0:0");
+    EXPECT_EQ(Bords(sub, sub.find("\\trowd")),
+              (std::vector<int>{2200, 3100, 4200, 5100, 5800, 6800, 9500}));
+    EXPECT_NE(sub.find(" dja }\\cell"), std::string::npos);
+    EXPECT_NE(sub.find(" Lin.}\\cell"), std::string::npos);
+    EXPECT_NE(sub.find(" 01/01/2030}\\cell"), std::string::npos);
+    EXPECT_NE(sub.find(" }\\cell\\row"), std::string::npos);
+
+    EnrEmprunt e = Emprunt("Prêt bâtiment JA bonifié longue durée", 150000, 0);
+    e.type = 1;
+    e.echeance1 = 2500;
+    e.dateFin = "01/10/2039";
+    Emprunts({e});
+    const std::string empr = Rendre("imemp:empt1:0");
+    const auto premiere = empr.find("\\trowd");
+    EXPECT_EQ(Bords(empr, premiere),
+              (std::vector<int>{1600, 2400, 3300, 3700, 4200, 4700, 7600, 9650, 10400}));
+    const auto seconde = empr.find("\\trowd", empr.find("\\row", premiere));
+    EXPECT_EQ(Bords(empr, seconde).size(), 14u);
+    EXPECT_NE(empr.find(" prêt bâtiment ja bonif.}\\cell"), std::string::npos);
+    EXPECT_NE(empr.find(" 150 000  }\\cell"), std::string::npos);
+    EXPECT_NE(empr.find(" 2,5 %}\\cell"), std::string::npos);
+    EXPECT_NE(empr.find(" 2 500    }\\cell"), std::string::npos);
+    EXPECT_NE(empr.find(" 01/10/39}\\cell"), std::string::npos);
+    EXPECT_NE(empr.find(" M}\\cell"), std::string::npos);
+    EXPECT_NE(empr.find("\\cellx10400"), std::string::npos);
+}
+
+TEST_F(TabsImmoEmprTest, InvestissementsSansSubventionNiDiffere) {
+    Plans({Plan("Stabulation")});
+    Immos({Immo("Bâtiment", 100000.5f, 1, 1)});
+    Emprunts({Emprunt("Prêt", 80000, 1, 1)});
+    u.reponses = {Reponse::Non, Reponse::Non};
+    const std::string sans = Rendre("imemp:inves:0");
+    ASSERT_EQ(u.questions.size(), 2u);
+    EXPECT_EQ(u.questions[0].titre, "Tableau des investissements-financements");
+    EXPECT_EQ(
+        u.questions[0].texte,
+        "\r\nLa colonne des subventions est vide. \r\nSouhaitez-vous l'afficher quand même ?");
+    EXPECT_EQ(u.questions[1].parDefaut, Reponse::Oui);
+    const auto troisieme = sans.find("\\trowd", sans.find("Emprunts"));
+    EXPECT_EQ(Bords(sans, troisieme), (std::vector<int>{2900, 4050, 5500, 6400, 7400}));
+    EXPECT_EQ(Bords(sans, sans.find("\\trowd")), (std::vector<int>{4050, 7400}));
+    EXPECT_NE(sans.find(" 100 000}\\cell"), std::string::npos);
+    EXPECT_NE(sans.find(" 2,5 %}\\cell"), std::string::npos);
+    EXPECT_NE(sans.find(" 40 trimestre}\\cell"), std::string::npos);
+    // Self-financing 100000 - 80000 at 0 decimals.
+    EXPECT_NE(sans.find("\\cellx5800"), std::string::npos);
+    EXPECT_NE(sans.find("\\cellx7400"), std::string::npos);
+    EXPECT_NE(sans.find(" 20 000}\\cell"), std::string::npos);
+
+    // No terminal: the default answers keep both columns.
+    u.questions.clear();
+    const std::string avec = Rendre("imemp:inves");
+    EXPECT_EQ(u.questions.size(), 2u);
+    const auto t3 = avec.find("\\trowd", avec.find("Emprunts"));
+    EXPECT_EQ(Bords(avec, t3), (std::vector<int>{2900, 4050, 5200, 6300, 7200, 8200, 9200}));
+    EXPECT_NE(avec.find("Différé"), std::string::npos);
+    EXPECT_NE(avec.find(" 100 000,5}\\cell"), std::string::npos);
+    // "Autofinancement" up to E = 6600 + 1000, its value 1600 further.
+    const auto autof = avec.rfind("\\trowd");
+    EXPECT_EQ(Bords(avec, autof), (std::vector<int>{3600, 7600, 9200}));
+}
+
+TEST_F(TabsImmoEmprTest, InvestissementsPlanACentPourCent) {
+    Plans({Plan("Reprise du cheptel", 100, 45000)});
+    EnrImmo s = Immo("Aide", 5000, 1, 1);
+    Subs({s});
+    EnrEmprunt e = Emprunt("Prêt", 40000, 1, 1);
+    e.differe = 12;
+    Emprunts({e});
+    const std::string rtf = Rendre("imemp:inves:0");
+    EXPECT_TRUE(u.questions.empty());
+    EXPECT_EQ(Compter(rtf, " Reprise du cheptel}\\cell"), 1);
+    EXPECT_EQ(Compter(rtf, " 45 000}\\cell"), 2); // the line and the total
+    EXPECT_NE(rtf.find(" TOTAL}\\cell"), std::string::npos);
+    EXPECT_NE(rtf.find(" 12}\\cell"), std::string::npos);
+    // 45000 - 5000 - 40000 = 0: the number text blanks it.
+    EXPECT_NE(rtf.find("Autofinancement}\\cell"), std::string::npos);
+}
+
+} // namespace
+} // namespace verdane::test
