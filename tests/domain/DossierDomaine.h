@@ -19,12 +19,12 @@ namespace verdane::test {
 class DossierDomaine : public ::testing::Test {
 protected:
     DossierDomaine() : ctx(u) {
-        ctx.etat.RepDossier[0] = d.Texte_();
+        ctx.etat.RepDossier[0] = d.Chemin();
         ctx.etat.NomDossier[0] = "Ferme";
         ctx.etat.nbAnEtude = 5;
         ctx.etat.anneeDebut = 2024;
         ctx.etat.marques = MarquesNombre{",", " "};
-        std::filesystem::create_directories(d.Chemin() / "Ferme");
+        std::filesystem::create_directories(d.Systeme() / "Ferme");
     }
 
     template <typename Enr, typename Ecrivain>

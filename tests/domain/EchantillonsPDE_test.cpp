@@ -161,8 +161,8 @@ TEST_F(EchantillonsPDETest, ModeleDesTablesDuDomaine) {
 TEST_F(EchantillonsPDETest, SocieteSansListes) {
     // A copy of the company dossier: its plan file is made on the first financing table.
     test::DossierTemporaire copie;
-    std::filesystem::copy(kMarlo + "Dossiers/GAEC", copie.Chemin() / "GAEC");
-    ctx.etat.RepDossier[0] = copie.Texte_();
+    std::filesystem::copy(kMarlo + "Dossiers/GAEC", copie.Systeme() / "GAEC");
+    ctx.etat.RepDossier[0] = copie.Chemin();
     ctx.etat.NomDossier[0] = "GAEC";
     ChargerDossier(ctx);
     EXPECT_TRUE(SuffixeSocietePDE(ctx));

@@ -95,7 +95,7 @@ TEST_F(FichiersDomaineTest, PlanAbsentCreeAvecVingtEmplacements) {
     // A dossier whose folder isn't there gets no file.
     ctx.etat.NomDossier[0] = "Absent";
     EXPECT_EQ(LireFichierInvest(ctx, 'p'), 0);
-    EXPECT_FALSE(std::filesystem::exists(d.Chemin() / "Absent"));
+    EXPECT_FALSE(std::filesystem::exists(d.Systeme() / "Absent"));
     // No dossier chosen at all: nothing is read and nothing is made.
     ctx.etat.RepDossier[0] = "  ";
     EXPECT_EQ(FichierDossier(ctx.etat, "PlanF.fin"), "");
