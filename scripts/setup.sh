@@ -3,7 +3,8 @@
 # packages already present are left alone.
 set -euo pipefail
 
-paquets=(cmake ninja-build g++ libgtest-dev libgmock-dev libbenchmark-dev clang-format)
+paquets=(cmake ninja-build g++ libgtest-dev libgmock-dev libbenchmark-dev clang-format
+         qt6-base-dev qt6-charts-dev libgl-dev fonts-dejavu-core)
 manquants=()
 for p in "${paquets[@]}"; do
     dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || manquants+=("$p")

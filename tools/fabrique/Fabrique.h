@@ -21,7 +21,11 @@ std::string FabriquerParametres(const std::vector<Section>& description);
 // The options file: keys named as the options, RepDossier0 ... NomDossier5 for the dossiers.
 std::string FabriquerOptions(const std::vector<Section>& description);
 
-// By the kind of a description file (the extension before ".txt": dossier, don, par, svg):
+// The graph library: one graph code a line (as a model carries it, with or without "gph(" and
+// ")"), lines starting with "#" left out.
+std::string FabriquerGraph(std::string_view utf8);
+
+// By the kind of a description file (the extension before ".txt": dossier, don, par, svg, gph):
 // the name of the file to write and its bytes; nothing for a file that is copied as it is.
 struct Fabrication {
     std::string nom;

@@ -19,6 +19,7 @@ std::optional<Fabrication> Fabriquer(const std::string& nomDescription, std::str
     if (genre == "don") return Fabrication{souche, FabriquerDon(description)};
     if (genre == "par") return Fabrication{souche, FabriquerParametres(description)};
     if (genre == "svg") return Fabrication{souche, FabriquerOptions(description)};
+    if (genre == "gph") return Fabrication{souche.substr(0, point) + ".txt", FabriquerGraph(texte)};
     return std::nullopt;
 }
 

@@ -3,6 +3,11 @@
 #include "shell/Demarrage.h"
 #include "shell/console/ConsoleUtilisateur.h"
 
+#ifdef VERDANE_AVEC_QT
+#include "graphs/qt/ApplicationQt.h"
+#include "graphs/qt/SurfaceQt.h"
+#endif
+
 #include <cstdlib>
 #include <filesystem>
 #include <memory>
@@ -21,8 +26,16 @@ std::string DossierDuProgramme(const char* argv0) {
 
 int main(int argc, char** argv) {
     using namespace verdane;
+#ifdef VERDANE_AVEC_QT
+    // Made before the run's state, which may hold charts, and so outliving it.
+    qt::ApplicationQt applicationQt(argc, argv);
+    qt::FabriqueSurfaceQt fabriqueSurface;
+#endif
     ConsoleUtilisateur console;
     auto ctx = std::make_unique<Contexte>(console);
+#ifdef VERDANE_AVEC_QT
+    ctx->etat.graphes.fabriqueSurface = &fabriqueSurface;
+#endif
     Environnement env;
     env.dossierProgramme = Utf8VersCp1252(DossierDuProgramme(argc > 0 ? argv[0] : nullptr));
     if (const char* home = std::getenv("MARLO_HOME")) env.marloHome = Utf8VersCp1252(home);

@@ -1,0 +1,47 @@
+#pragma once
+// The series of a chart as they are drawn: values stacked, colours and pens made, and the Qt
+// series each is drawn by, so that the depth of a 3D chart can be painted behind them.
+
+#include <QBrush>
+#include <QColor>
+#include <QPainter>
+#include <QPointF>
+#include <QString>
+
+#include <vector>
+
+QT_BEGIN_NAMESPACE
+class QAbstractSeries;
+class QChart;
+QT_END_NAMESPACE
+
+namespace verdane::qt {
+
+enum class Genre { Barres, Courbe, Aire, Escalier };
+
+struct SerieTracee {
+    QString nom;
+    Genre genre = Genre::Barres;
+    bool secondaire = false;
+    QColor remplissage;
+    QColor bord;
+    QColor trait;
+    Qt::BrushStyle brosse = Qt::SolidPattern;
+    double epaisseur = 1; // pixels
+    std::vector<double> valeurs;
+    // In the chart's values: the top and the bottom of each point (lines: the same), for
+    // steps two points a year.
+    std::vector<QPointF> haut;
+    std::vector<QPointF> bas;
+    // Bars: the sides of the bar around its year's centre.
+    double gauche = -0.3;
+    double droite = 0.3;
+    QAbstractSeries* serieQt = nullptr;
+};
+
+// Paints the depth of a 3D chart (walls, then each series' faces going back by `profondeur`)
+// before the chart itself is drawn over it.
+void PeindreRelief(QPainter& p, QChart& chart, const std::vector<SerieTracee>& series,
+                   QPointF profondeur);
+
+} // namespace verdane::qt
