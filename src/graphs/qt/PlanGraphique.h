@@ -36,12 +36,17 @@ struct SerieTracee {
     // Bars: the sides of the bar around its year's centre.
     double gauche = -0.3;
     double droite = 0.3;
+    // 3D: the row going back where the series stands, 0 in front.
+    int rang = 0;
     QAbstractSeries* serieQt = nullptr;
 };
 
-// Paints the depth of a 3D chart (walls, then each series' faces going back by `profondeur`)
-// before the chart itself is drawn over it.
-void PeindreRelief(QPainter& p, QChart& chart, const std::vector<SerieTracee>& series,
-                   QPointF profondeur);
+// The floor and walls of a 3D chart, `profondeur` behind the plot: painted before the chart.
+void PeindreMurs(QPainter& p, QChart& chart, QPointF profondeur);
+
+// The series of a 3D chart in relief, over the chart drawn without them: `rangs` rows share
+// the depth, each series in its row, the back rows first.
+void PeindreSeries3D(QPainter& p, QChart& chart, const std::vector<SerieTracee>& series,
+                     QPointF profondeur, int rangs);
 
 } // namespace verdane::qt

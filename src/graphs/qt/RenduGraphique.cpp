@@ -478,14 +478,48 @@ Cadre CadreDes(const ReglagesGraphique& r, QSizeF taille) {
     return {taille.width() / maxX, taille.height() / maxY, taille.height()};
 }
 
-QPointF Profondeur(const ReglagesGraphique& r, QSizeF taille) {
+// 3D: bars in the front row, each other series in a row of its own behind; the number of rows.
+int Ranger(std::vector<SerieTracee>& series) {
+    const bool barres = std::any_of(series.begin(), series.end(),
+                                    [](const SerieTracee& s) { return s.genre == Genre::Barres; });
+    int rang = barres ? 1 : 0;
+    for (SerieTracee& s : series) s.rang = s.genre == Genre::Barres ? 0 : rang++;
+    return std::max(1, rang);
+}
+
+// 3D: the chart draws the axes and the legend; the series are painted in relief over it.
+void CacherSeries(QChart& chart, const std::vector<SerieTracee>& series) {
+    for (QAbstractSeries* qs : chart.series()) {
+        if (auto* b = qobject_cast<QAbstractBarSeries*>(qs)) {
+            for (QBarSet* set : b->barSets()) {
+                set->setBrush(Qt::NoBrush);
+                set->setPen(Qt::NoPen);
+            }
+        } else if (auto* a = qobject_cast<QAreaSeries*>(qs)) {
+            a->setBrush(Qt::NoBrush);
+            a->setPen(Qt::NoPen);
+        } else if (auto* l = qobject_cast<QLineSeries*>(qs)) {
+            l->setPen(Qt::NoPen);
+        }
+    }
+    const auto marqueurs = chart.legend()->markers();
+    for (const SerieTracee& s : series)
+        for (QLegendMarker* m : marqueurs)
+            if (m->label() == s.nom) {
+                m->setBrush(s.genre == Genre::Courbe ? QBrush(s.trait) : BrosseDe(s));
+                m->setPen(QPen(s.genre == Genre::Courbe ? s.trait : s.bord, 1));
+            }
+}
+
+QPointF Profondeur(const ReglagesGraphique& r, QSizeF taille, int rangs) {
     double rotation = r.rotation, elevation = r.elevation;
     if (!std::isfinite(rotation) || !std::isfinite(elevation) ||
         (rotation == 0 && elevation == 0)) {
         rotation = 30;
         elevation = 20;
     }
-    const double longueur = taille.width() * 0.05 * (1 + std::clamp(r.espaceZ, 0, 100) / 100.0);
+    const double longueur = taille.width() * 0.05 * (1 + std::clamp(r.espaceZ, 0, 100) / 100.0) *
+                            std::min(2.0, 1 + 0.35 * (rangs - 1));
     const double pi = std::acos(-1.0);
     QPointF d(longueur * std::sin(rotation * pi / 180), -longueur * std::sin(elevation * pi / 180));
     // Seen straight on there would be no depth left to see: keep some.
@@ -524,6 +558,7 @@ QImage RendreGraphique(const ReglagesGraphique& r, QSize taille) {
     const Grille g = LireGrille(r);
     std::vector<SerieTracee> series = Tracer(r, g);
     const bool troisD = Est3D(r.type);
+    const int rangs = troisD ? Ranger(series) : 1;
     std::vector<std::pair<QPieSeries*, QString>> camemberts;
     if (r.type == kSecteurs2D)
         Secteurs(*chart, series, g, t, camemberts);
@@ -533,7 +568,8 @@ QImage RendreGraphique(const ReglagesGraphique& r, QSize taille) {
         GraphiqueParAnnees(*chart, series, g, r);
 
     QMarginsF marges(kMarge, kMarge, kMarge, kMarge);
-    const QPointF profondeur = troisD ? Profondeur(r, t) : QPointF();
+    if (troisD) CacherSeries(*chart, series);
+    const QPointF profondeur = troisD ? Profondeur(r, t, rangs) : QPointF();
 
     const Cadre cadre = CadreDes(r, t);
     const auto boiteTitre = r.boites[0].posee ? cadre.Boite(r.boites[0].rect) : std::nullopt;
@@ -584,7 +620,12 @@ QImage RendreGraphique(const ReglagesGraphique& r, QSize taille) {
     // Room for the depth behind the plot, inside it.
     plot.adjust(std::max(0.0, -profondeur.x()), std::max(0.0, -profondeur.y()),
                 -std::max(0.0, profondeur.x()), -std::max(0.0, profondeur.y()));
-    if (boitePlot || troisD) chart->setPlotArea(plot);
+    if (boitePlot || troisD) {
+        chart->setPlotArea(plot);
+        // The axes follow the plot only when the layout runs again.
+        chart->layout()->invalidate();
+        chart->layout()->activate();
+    }
     QCoreApplication::processEvents();
 
     // The years under their pies.
@@ -603,8 +644,9 @@ QImage RendreGraphique(const ReglagesGraphique& r, QSize taille) {
     p.setRenderHint(QPainter::Antialiasing);
     p.setRenderHint(QPainter::TextAntialiasing);
     p.scale(kEchelle, kEchelle);
-    if (troisD) PeindreRelief(p, *chart, series, profondeur);
+    if (troisD) PeindreMurs(p, *chart, profondeur);
     scene.render(&p, QRectF(QPointF(0, 0), t), QRectF(QPointF(0, 0), t));
+    if (troisD) PeindreSeries3D(p, *chart, series, profondeur, rangs);
     p.end();
     return image.convertToFormat(QImage::Format_RGB32);
 }
