@@ -41,11 +41,12 @@ struct SerieTracee {
     QAbstractSeries* serieQt = nullptr;
 };
 
-// The floor and walls of a 3D chart, `profondeur` behind the plot: painted before the chart.
-void PeindreMurs(QPainter& p, QChart& chart, QPointF profondeur);
+// The floor and walls of a 3D chart, `profondeur` behind the plot, with the `graduations`
+// lines of the value axis.
+void PeindreMurs(QPainter& p, QChart& chart, QPointF profondeur, int graduations);
 
-// The series of a 3D chart in relief, over the chart drawn without them: `rangs` rows share
-// the depth, each series in its row, the back rows first.
+// The series of a 3D chart in relief, under the axes and the legend that the chart draws
+// without them: `rangs` rows share the depth, each series in its row, the back rows first.
 void PeindreSeries3D(QPainter& p, QChart& chart, const std::vector<SerieTracee>& series,
                      QPointF profondeur, int rangs);
 

@@ -502,6 +502,8 @@ void CacherSeries(QChart& chart, const std::vector<SerieTracee>& series) {
             l->setPen(Qt::NoPen);
         }
     }
+    // The walls carry the graduations.
+    for (QAbstractAxis* axe : chart.axes()) axe->setGridLineVisible(false);
     const auto marqueurs = chart.legend()->markers();
     for (const SerieTracee& s : series)
         for (QLegendMarker* m : marqueurs)
@@ -509,6 +511,22 @@ void CacherSeries(QChart& chart, const std::vector<SerieTracee>& series) {
                 m->setBrush(s.genre == Genre::Courbe ? QBrush(s.trait) : BrosseDe(s));
                 m->setPen(QPen(s.genre == Genre::Courbe ? s.trait : s.bord, 1));
             }
+}
+
+// The stored plot box holds the axes with their labels and titles: the data inside.
+QRectF InterieurPlot(QChart& chart, const QRectF& boite) {
+    const auto verticaux = chart.axes(Qt::Vertical);
+    if (verticaux.isEmpty() || boite.width() < 200 || boite.height() < 120) return boite;
+    const double droite = verticaux.size() > 1 ? 60 : 8;
+    return boite.adjusted(60, 6, -droite, -40);
+}
+
+// Number of graduations of the first value axis.
+int Graduations(QChart& chart) {
+    for (QAbstractAxis* axe : chart.axes(Qt::Vertical))
+        if (auto* v = qobject_cast<QValueAxis*>(axe); v && axe->alignment() == Qt::AlignLeft)
+            return v->tickCount();
+    return 0;
 }
 
 QPointF Profondeur(const ReglagesGraphique& r, QSizeF taille, int rangs) {
@@ -521,10 +539,11 @@ QPointF Profondeur(const ReglagesGraphique& r, QSizeF taille, int rangs) {
     const double longueur = taille.width() * 0.05 * (1 + std::clamp(r.espaceZ, 0, 100) / 100.0) *
                             std::min(2.0, 1 + 0.35 * (rangs - 1));
     const double pi = std::acos(-1.0);
-    QPointF d(longueur * std::sin(rotation * pi / 180), -longueur * std::sin(elevation * pi / 180));
+    // The value axis stands on the left: the depth goes right, whichever side the view turns.
+    QPointF d(longueur * std::abs(std::sin(rotation * pi / 180)),
+              -longueur * std::sin(elevation * pi / 180));
     // Seen straight on there would be no depth left to see: keep some.
-    if (std::hypot(d.x(), d.y()) < 0.4 * longueur)
-        d = QPointF(0.35 * longueur * (d.x() < 0 ? -1 : 1), -0.2 * longueur);
+    if (std::hypot(d.x(), d.y()) < 0.4 * longueur) d = QPointF(0.35 * longueur, -0.2 * longueur);
     return d;
 }
 
@@ -616,7 +635,7 @@ QImage RendreGraphique(const ReglagesGraphique& r, QSize taille) {
         chart->legend()->setGeometry(*boiteLegende);
     }
     chart->layout()->activate();
-    QRectF plot = boitePlot ? *boitePlot : chart->plotArea();
+    QRectF plot = boitePlot ? InterieurPlot(*chart, *boitePlot) : chart->plotArea();
     // Room for the depth behind the plot, inside it.
     plot.adjust(std::max(0.0, -profondeur.x()), std::max(0.0, -profondeur.y()),
                 -std::max(0.0, profondeur.x()), -std::max(0.0, profondeur.y()));
@@ -644,9 +663,11 @@ QImage RendreGraphique(const ReglagesGraphique& r, QSize taille) {
     p.setRenderHint(QPainter::Antialiasing);
     p.setRenderHint(QPainter::TextAntialiasing);
     p.scale(kEchelle, kEchelle);
-    if (troisD) PeindreMurs(p, *chart, profondeur);
+    if (troisD) {
+        PeindreMurs(p, *chart, profondeur, Graduations(*chart));
+        PeindreSeries3D(p, *chart, series, profondeur, rangs);
+    }
     scene.render(&p, QRectF(QPointF(0, 0), t), QRectF(QPointF(0, 0), t));
-    if (troisD) PeindreSeries3D(p, *chart, series, profondeur, rangs);
     p.end();
     return image.convertToFormat(QImage::Format_RGB32);
 }

@@ -90,18 +90,23 @@ std::string Dessiner(int type, auto&& reglerEnPlus) {
     return s.CopierImage();
 }
 
+// Keeps a picture in the build folder, to be looked at.
+void Garder(const std::string& nom, const std::string& png) {
+    const std::filesystem::path dossier = std::filesystem::path(VERDANE_BIN_DIR) / "graphiques";
+    std::filesystem::create_directories(dossier);
+    std::ofstream(dossier / (nom + ".png"), std::ios::binary) << png;
+}
+
 std::string Dessiner(int type) {
     return Dessiner(type, [](SurfaceQt&) {});
 }
 
 TEST(SurfaceQt, DrawsEveryKindAsADistinctPicture) {
-    const std::filesystem::path dossier = std::filesystem::path(VERDANE_BIN_DIR) / "graphiques";
-    std::filesystem::create_directories(dossier);
     std::vector<QImage> images;
     for (int type : kTypes) {
         const std::string png = Dessiner(type);
         ASSERT_FALSE(png.empty()) << type;
-        std::ofstream(dossier / ("type" + std::to_string(type) + ".png"), std::ios::binary) << png;
+        Garder("type" + std::to_string(type), png);
         const QImage image = Image(png);
         ASSERT_FALSE(image.isNull()) << type;
         EXPECT_EQ(image.width(), 2 * kLargeurGraphique);
@@ -120,10 +125,12 @@ TEST(SurfaceQt, ThreeDimensionalKindsHaveDepthThatFollowsTheView) {
     const QImage plat = Image(Dessiner(kBarres2D));
     const QImage relief = Image(Dessiner(kBarres3D));
     EXPECT_GT(Encre(relief), Encre(plat));
-    const QImage tourne = Image(Dessiner(kBarres3D, [](SurfaceQt& s) {
+    const std::string png = Dessiner(kBarres3D, [](SurfaceQt& s) {
         s.PoserRotation(-60);
         s.PoserElevation(45);
-    }));
+    });
+    Garder("tourne", png);
+    const QImage tourne = Image(png);
     EXPECT_GT(Differences(relief, tourne), 2000);
 }
 
@@ -146,13 +153,15 @@ TEST(SurfaceQt, BrushesWidthsAndBoxesChangeThePicture) {
 
     // The plot in the left half only, the legend bottom right: the right top quarter of the
     // picture empties of bars.
-    const QImage placee = Image(Dessiner(kBarres2D, [](SurfaceQt& s) {
+    const std::string png = Dessiner(kBarres2D, [](SurfaceQt& s) {
         s.PoserTypeEmplacement(BoiteGraphique::Titre, kEmplacementLibre);
         s.PoserRectangle(BoiteGraphique::Titre, {0, 1000, 900, 1000});
         s.PoserRectanglePlot({50, 480, 50, 850});
         s.PoserRectangle(BoiteGraphique::Legende, {600, 1000, 0, 300});
         s.PoserRectangle(BoiteGraphique::Note, {0, 500, 0, 40});
-    }));
+    });
+    Garder("boites", png);
+    const QImage placee = Image(png);
     const QImage quartPlace = placee.copy(placee.width() / 2 + 20, placee.height() / 8,
                                           placee.width() / 2 - 40, placee.height() / 3);
     const QImage quartLibre = pleine.copy(pleine.width() / 2 + 20, pleine.height() / 8,
