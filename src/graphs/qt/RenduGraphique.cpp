@@ -289,27 +289,31 @@ QLineSeries* Ligne(const std::vector<QPointF>& points) {
     return l;
 }
 
-// Lines, or areas and steps: areas go first so that bars and lines stand in front of them.
-void AjouterAutres(QChart& chart, std::vector<SerieTracee>& series, QAbstractAxis* x, QValueAxis* y,
-                   QValueAxis* y2, bool courbes) {
-    for (SerieTracee& s : series) {
-        if (s.genre == Genre::Barres || (s.genre == Genre::Courbe) != courbes) continue;
-        QValueAxis* axe = s.secondaire && y2 ? y2 : y;
-        if (s.genre == Genre::Courbe) {
-            QLineSeries* l = Ligne(s.haut);
-            l->setName(s.nom);
-            l->setPen(QPen(s.trait, s.epaisseur * 1.5));
-            s.serieQt = l;
-            Attacher(chart, l, x, axe);
-            continue;
-        }
-        auto* aire = new QAreaSeries(Ligne(s.haut), Ligne(s.bas));
-        aire->setName(s.nom);
-        aire->setBrush(BrosseDe(s));
-        aire->setPen(QPen(s.trait.darker(130), s.epaisseur));
-        s.serieQt = aire;
-        Attacher(chart, aire, x, axe);
+// A line, an area or a step series.
+void AjouterAutre(QChart& chart, SerieTracee& s, QAbstractAxis* x, QValueAxis* y, QValueAxis* y2) {
+    QValueAxis* axe = s.secondaire && y2 ? y2 : y;
+    if (s.genre == Genre::Courbe) {
+        QLineSeries* l = Ligne(s.haut);
+        l->setName(s.nom);
+        l->setPen(QPen(s.trait, s.epaisseur * 1.5));
+        s.serieQt = l;
+        Attacher(chart, l, x, axe);
+        return;
     }
+    auto* aire = new QAreaSeries(Ligne(s.haut), Ligne(s.bas));
+    aire->setName(s.nom);
+    aire->setBrush(BrosseDe(s));
+    aire->setPen(QPen(s.trait.darker(130), s.epaisseur));
+    s.serieQt = aire;
+    Attacher(chart, aire, x, axe);
+}
+
+// Areas and steps behind the bars and lines, whatever their order in the legend.
+void AiresDerriere(QChart& chart) {
+    for (QGraphicsItem* item : chart.childItems())
+        if (QGraphicsObject* o = item->toGraphicsObject();
+            o && QByteArray(o->metaObject()->className()).endsWith("AreaChartItem"))
+            item->setZValue(item->zValue() - 0.5);
 }
 
 void GraphiqueParAnnees(QChart& chart, std::vector<SerieTracee>& series, const Grille& g,
@@ -332,9 +336,15 @@ void GraphiqueParAnnees(QChart& chart, std::vector<SerieTracee>& series, const G
         chart.addAxis(y2, Qt::AlignRight);
         Etendue(series, true, *y2);
     }
-    AjouterAutres(chart, series, x, y, y2, false);
-    AjouterBarres(chart, series, r, x, y, y2);
-    AjouterAutres(chart, series, x, y, y2, true);
+    // In the order of the series, the bars all at the place of the first one.
+    bool barres = false;
+    for (SerieTracee& s : series) {
+        if (s.genre != Genre::Barres)
+            AjouterAutre(chart, s, x, y, y2);
+        else if (!barres)
+            AjouterBarres(chart, series, r, x, y, y2);
+        barres = barres || s.genre == Genre::Barres;
+    }
 }
 
 // One pie a year, side by side; the legend names the slices once.
@@ -646,6 +656,7 @@ QImage RendreGraphique(const ReglagesGraphique& r, QSize taille) {
         chart->layout()->activate();
     }
     QCoreApplication::processEvents();
+    AiresDerriere(*chart);
 
     // The years under their pies.
     for (const auto& [pie, annee] : camemberts) {

@@ -180,6 +180,11 @@ TEST(SurfaceQt, StrangeSettingsStillGiveAPicture) {
             s.PoserDonnee(std::nan(""));
             s.PoserRectanglePlot({std::nanf(""), 1, 2, 3});
             s.PoserRotation(1e30f);
+            s.PoserOrientationTitre(kVerticalPivote1);
+            s.PoserOrientationNote(kVerticalEmpile);
+            s.PoserSeriesEnLignes(true);
+            s.PoserEmpilement(true);
+            s.PoserTailleAxe(1, 1e6f);
         });
         EXPECT_FALSE(Image(png).isNull()) << type;
         SurfaceQt vide;
