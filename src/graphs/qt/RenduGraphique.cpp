@@ -300,7 +300,12 @@ void AjouterAutre(QChart& chart, SerieTracee& s, QAbstractAxis* x, QValueAxis* y
         Attacher(chart, l, x, axe);
         return;
     }
-    auto* aire = new QAreaSeries(Ligne(s.haut), Ligne(s.bas));
+    QLineSeries* haut = Ligne(s.haut);
+    QLineSeries* bas = Ligne(s.bas);
+    auto* aire = new QAreaSeries(haut, bas);
+    // The area doesn't own its lines.
+    haut->setParent(aire);
+    bas->setParent(aire);
     aire->setName(s.nom);
     aire->setBrush(BrosseDe(s));
     aire->setPen(QPen(s.trait.darker(130), s.epaisseur));
