@@ -3,7 +3,8 @@
 # packages already present are left alone. Further package names may be given as arguments.
 set -euo pipefail
 
-paquets=(cmake ninja-build g++ libgtest-dev libgmock-dev libbenchmark-dev clang-format)
+paquets=(cmake ninja-build g++ libgtest-dev libgmock-dev libbenchmark-dev clang-format
+         qt6-base-dev qt6-charts-dev libgl-dev fonts-dejavu-core)
 paquets+=("$@")
 manquants=()
 for p in "${paquets[@]}"; do

@@ -256,6 +256,7 @@ IssueCreation CreerDocument(Contexte& ctx, const Texte& modeleDemande, const Tex
     e.ModeMemeDossier = 0;
     e.decalageCouleurs = 0;
     e.tableaux.nbDossiersChoisis = 0;
+    e.domaine.compteurTableaux = 0;
     e.NbCodes = 0;
     e.CodesFaits = 0;
     e.ChampsMaj = 0;

@@ -1,9 +1,28 @@
 #include "engine/ExtensionsProgramme.h"
 
+#include "domain/TabsActiLibres.h"
+#include "domain/TabsCultures.h"
+#include "graphs/ImageGraph.h"
 #include "tables/Formules.h"
 #include "tables/GenererTableau.h"
 
 namespace verdane {
+
+Texte ExtensionsProgramme::TableauCultures(Contexte& ctx, const Texte& code) {
+    return verdane::TableauCultures(ctx, code);
+}
+
+Texte ExtensionsProgramme::TableauCulturesPerennes(Contexte& ctx, const Texte& code) {
+    return verdane::TableauCultures(ctx, code);
+}
+
+Texte ExtensionsProgramme::TableauActivites(Contexte& ctx, const Texte& code) {
+    return verdane::TableauActivites(ctx, code);
+}
+
+Texte ExtensionsProgramme::Graphique(Contexte& ctx, const Texte& interieur) {
+    return ImageGraphRtf(ctx, interieur);
+}
 
 Texte ExtensionsProgramme::GenererTableau(Contexte& ctx, const Texte& code) {
     return verdane::GenererTableau(ctx, code);

@@ -8,7 +8,11 @@ namespace verdane {
 
 class ExtensionsProgramme : public ExtensionsCode {
 public:
+    Texte TableauCultures(Contexte& ctx, const Texte& code) override;
+    Texte TableauCulturesPerennes(Contexte& ctx, const Texte& code) override;
+    Texte TableauActivites(Contexte& ctx, const Texte& code) override;
     Texte GenererTableau(Contexte& ctx, const Texte& code) override;
+    Texte Graphique(Contexte& ctx, const Texte& interieur) override;
     Texte Formule(Contexte& ctx, const Texte& formule, int annee) override;
 };
 

@@ -6,11 +6,13 @@
 #include <array>
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <random>
 
 namespace verdane {
 
 class SurfaceGraphique;
+class FabriqueSurface;
 
 inline constexpr int kMaxGraphes = 50;
 
@@ -30,6 +32,12 @@ struct EtatGraphes {
     // documents are drawn on. Not owned; null: no chart, nothing is drawn.
     SurfaceGraphique* graphCourant = nullptr;
     SurfaceGraphique* graphInsertion = nullptr;
+    // The platform's maker of charts (not owned; null: none), and the hidden chart it made for
+    // documents when no one had put graphInsertion.
+    FabriqueSurface* fabriqueSurface = nullptr;
+    std::shared_ptr<SurfaceGraphique> insertionCreee;
+    // The missing chart is told once a run.
+    bool absenceSurfaceSignalee = false;
 
     // True when the program runs one job of its command line: the editor's preview then draws
     // the values of the dossier, and not sample values. Set at start-up.

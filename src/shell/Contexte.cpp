@@ -1,5 +1,6 @@
 #include "shell/Contexte.h"
 
+#include "domain/LignesDomaineMarlo.h"
 #include "engine/AnalyserCodes.h"
 #include "engine/ExtensionsProgramme.h"
 
@@ -13,6 +14,8 @@ AnalyseurCodes& AnalyseurDuProgramme() {
 } // namespace
 
 Contexte::Contexte(PortUtilisateur& u)
-    : utilisateur(u), analyseur(&AnalyseurDuProgramme()), extensions(&ExtensionsDuProgramme()) {}
+    : utilisateur(u), analyseur(&AnalyseurDuProgramme()), extensions(&ExtensionsDuProgramme()) {
+    BrancherDomaine(*this);
+}
 
 } // namespace verdane

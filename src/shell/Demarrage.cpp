@@ -3,6 +3,7 @@
 #include "data/ChargerDossier.h"
 #include "data/FormatNombre.h"
 #include "engine/CreationDoc.h"
+#include "graphs/GraphDossier.h"
 #include "shell/Chemins.h"
 #include "shell/Options.h"
 #include "shell/Parametres.h"
@@ -77,7 +78,10 @@ int ExecuterProgramme(Contexte& ctx, const LigneCommande& ligne, const Environne
     } else if (travail == "OUVRIR" || travail == "CREER" || travail == "CERFA" ||
                travail == "GRAPH") {
         PreparerDossierLigneCommande(ctx, ligne);
-        sortie = TravailSansFenetre(ctx, travail);
+        if (travail == "GRAPH")
+            sortie = DessinerGraphDossier(ctx) ? kSortieFaite : kSortieEchec;
+        else
+            sortie = TravailSansFenetre(ctx, travail);
     } else {
         ctx.utilisateur.AfficherMessage({"Travail inconnu : " + ligne.Argument(1),
                                          "Les travaux sont INI, OUVRIR, CREER, CERFA et GRAPH.",

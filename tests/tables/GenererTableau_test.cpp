@@ -159,6 +159,7 @@ TEST_F(RenduTest, LignesDuDomaine) {
         Code("culture1tabp1", {L("x", "cultu:ASSOL:0"), L("y", "imemp:inves"),
                                L("Surface", "scult:SURF:1:1"), L("Rien", "scult:AUTRE:0:1")});
     // Without a domain behind them, these lines give nothing.
+    ctx.etat.tableaux.lignesDomaine = nullptr;
     EXPECT_TRUE(Rangees(GenererTableau(ctx, code)).empty());
     DomaineTemoin domaine;
     ctx.etat.tableaux.lignesDomaine = &domaine;

@@ -34,9 +34,13 @@ std::string FabriquerPlans(const std::vector<Section>& description);
 std::string FabriquerCultures(const std::vector<Section>& description);
 std::string FabriquerCulturesPerennes(const std::vector<Section>& description);
 
+// The graph library: one graph code a line (as a model carries it, with or without "gph(" and
+// ")"), lines starting with "#" left out.
+std::string FabriquerGraph(std::string_view utf8);
+
 // By the kind of a description file (the extension before ".txt": dossier, don, cfg, par, svg,
-// imm, sub, emp, fin, clt, cpd): the name of the file to write and its bytes; nothing for a
-// file that is copied as it is.
+// imm, sub, emp, fin, clt, cpd, gph): the name of the file to write and its bytes; nothing for
+// a file that is copied as it is.
 struct Fabrication {
     std::string nom;
     std::string octets;

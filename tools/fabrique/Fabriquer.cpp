@@ -26,6 +26,7 @@ std::optional<Fabrication> Fabriquer(const std::string& nomDescription, std::str
     if (genre == "fin") return Fabrication{souche, FabriquerPlans(description)};
     if (genre == "clt") return Fabrication{souche, FabriquerCultures(description)};
     if (genre == "cpd") return Fabrication{souche, FabriquerCulturesPerennes(description)};
+    if (genre == "gph") return Fabrication{souche.substr(0, point) + ".txt", FabriquerGraph(texte)};
     return std::nullopt;
 }
 

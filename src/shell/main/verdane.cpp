@@ -8,6 +8,11 @@
 #include "links/LiensSansOffice.h"
 #endif
 
+#ifdef VERDANE_AVEC_QT
+#include "graphs/qt/ApplicationQt.h"
+#include "graphs/qt/SurfaceQt.h"
+#endif
+
 #include <cstdlib>
 #include <filesystem>
 #include <memory>
@@ -26,6 +31,11 @@ std::string DossierDuProgramme(const char* argv0) {
 
 int main(int argc, char** argv) {
     using namespace verdane;
+#ifdef VERDANE_AVEC_QT
+    // Made before the run's state, which may hold charts, and so outliving it.
+    qt::ApplicationQt applicationQt(argc, argv);
+    qt::FabriqueSurfaceQt fabriqueSurface;
+#endif
     ConsoleUtilisateur console;
     auto ctx = std::make_unique<Contexte>(console);
     // The word-processor links live as long as the run; the office they start ends with them.
@@ -33,6 +43,9 @@ int main(int argc, char** argv) {
     LiensSysteme liens(*ctx);
 #else
     LiensSansOffice liens(*ctx);
+#endif
+#ifdef VERDANE_AVEC_QT
+    ctx->etat.graphes.fabriqueSurface = &fabriqueSurface;
 #endif
     Environnement env;
     env.dossierProgramme = Utf8VersCp1252(DossierDuProgramme(argc > 0 ? argv[0] : nullptr));

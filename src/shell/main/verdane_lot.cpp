@@ -9,6 +9,11 @@
 #endif
 #include "utils/EcritureSure.h"
 
+#ifdef VERDANE_AVEC_QT
+#include "graphs/qt/ApplicationQt.h"
+#include "graphs/qt/SurfaceQt.h"
+#endif
+
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
@@ -33,6 +38,11 @@ int main(int argc, char** argv) {
         return kSortieFaite;
     }
 
+#ifdef VERDANE_AVEC_QT
+    // Made before the run's state, which may hold charts, and so outliving it.
+    qt::ApplicationQt applicationQt(argc, argv);
+    qt::FabriqueSurfaceQt fabriqueSurface;
+#endif
     ConsoleUtilisateur console;
     console.ImposerReponse(options.reponse);
     UtilisateurEnregistre enregistre(console);
@@ -41,6 +51,9 @@ int main(int argc, char** argv) {
     LiensSysteme liens(*ctx);
 #else
     LiensSansOffice liens(*ctx);
+#endif
+#ifdef VERDANE_AVEC_QT
+    ctx->etat.graphes.fabriqueSurface = &fabriqueSurface;
 #endif
     Environnement env;
     if (const char* home = std::getenv("MARLO_HOME")) env.marloHome = Utf8VersCp1252(home);
