@@ -23,6 +23,10 @@ for dossier in DUPONT TILLEULS; do
         echo "-> $sortie/$nom.rtf"
     done
 done
+# The whole PDE of the sample dossier, one document.
+build/verdane-lot --dossier "$dossiers/DUPONT" --modele "$modeles/PDE/PDECerfa.vdm" \
+    --resultat "$sortie/PDE-DUPONT.rtf" --remplacer --reponse non --rapport "$sortie/PDE-DUPONT.json"
+echo "-> $sortie/PDE-DUPONT.rtf"
 if command -v soffice >/dev/null 2>&1; then
     profil=$(mktemp -d)
     timeout 300 soffice -env:UserInstallation="file://$profil" --headless --convert-to txt:Text \
