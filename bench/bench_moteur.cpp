@@ -8,6 +8,7 @@
 #include "engine/AnalyserCodes.h"
 #include "engine/CreationDoc.h"
 #include "shell/Contexte.h"
+#include "support/GrandTableau.h"
 #include "tables/GenererTableau.h"
 
 #include <benchmark/benchmark.h>
@@ -111,21 +112,7 @@ BENCHMARK(GrosModeleSansCode)->Unit(benchmark::kMillisecond);
 void PlusGrandTableau(benchmark::State& etat, bool series) {
     Banc banc;
     banc.ctx.etat.nbAnEtude = 13;
-    const Texte format = ";5006;10;1;0;0;0;0;0;r;1;1;1;1;8";
-    Texte code = "tabp9c1";
-    for (int c = 0; c < 9; ++c) code += ";larg900";
-    code += ";larg14000(";
-    for (int n = 1; n <= 511; ++n) {
-        if (n > 1) code += "#";
-        code += "[280;120]";
-        for (int c = 0; c < 9; ++c) code += "[L" + std::to_string(n) + format + "]";
-        Texte definition =
-            "totalC:LG" + std::to_string(n - 1) + "*2+LG" + std::to_string(n - 2) + ":2:0";
-        if (n == 2 || (series && n % 3 != 0)) definition = "serie:VL.don+VL-7:0:0";
-        if (n == 1) definition = "entete:1";
-        code += "[" + definition + format + "]";
-    }
-    code += ")";
+    const Texte code = test::CodeGrandTableau(series, "VL.don+VL-7");
     for (auto _ : etat) benchmark::DoNotOptimize(GenererTableau(banc.ctx, code));
 }
 BENCHMARK_CAPTURE(PlusGrandTableau, totaux, false)->Unit(benchmark::kMillisecond);

@@ -1,6 +1,6 @@
 #include "data/Catalogue.h"
 
-#include "data/FluxEnregistrement.h"
+#include "utils/FluxEnregistrement.h"
 #include "data/ValeurCode.h"
 #include "utils/Chaines.h"
 #include "utils/OutilsFichiers.h"

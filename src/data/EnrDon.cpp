@@ -1,6 +1,6 @@
 #include "data/EnrDon.h"
 
-#include "data/FluxEnregistrement.h"
+#include "utils/FluxEnregistrement.h"
 #include "utils/OutilsFichiers.h"
 
 namespace verdane {

@@ -1,6 +1,6 @@
 #include "data/EnrDossier.h"
 
-#include "data/FluxEnregistrement.h"
+#include "utils/FluxEnregistrement.h"
 
 namespace verdane {
 

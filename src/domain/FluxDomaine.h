@@ -3,7 +3,7 @@
 // description, written once, reads a record from its bytes or writes them. Fields sit at
 // fixed offsets (`Aller`), so gaps the program doesn't read stay zero in what it writes.
 
-#include "data/FluxEnregistrement.h"
+#include "utils/FluxEnregistrement.h"
 
 #include <array>
 #include <cstdint>

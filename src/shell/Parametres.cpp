@@ -1,6 +1,7 @@
 #include "shell/Parametres.h"
 
 #include "utils/Binaire.h"
+#include "utils/FluxEnregistrement.h"
 #include "utils/OutilsFichiers.h"
 
 #include <algorithm>
@@ -31,28 +32,14 @@ template <typename Flux, typename Org> void Parcourir(Flux& f, Org& o) {
     f.Chaine(o.logo, 80);
 }
 
-struct Lecture {
-    LecteurBinaire l;
-    void Chaine(Texte& t, std::size_t n) { t = l.Chaine(n); }
-};
-struct Ecriture {
-    EcrivainBinaire e;
-    void Chaine(const Texte& t, std::size_t n) { e.Chaine(t, n); }
-};
-
 } // namespace
 
 EnrOrganisme LireOrganisme(std::string_view octets) {
-    EnrOrganisme o;
-    Lecture l{LecteurBinaire(octets)};
-    Parcourir(l, o);
-    return o;
+    return LireSelon<EnrOrganisme>(octets, [](auto& f, auto& o) { Parcourir(f, o); });
 }
 
 std::string EcrireOrganisme(const EnrOrganisme& o) {
-    Ecriture e;
-    Parcourir(e, o);
-    return e.e.Octets();
+    return EcrireSelon(o, [](auto& f, const auto& e) { Parcourir(f, e); });
 }
 
 Texte FichierParametres(const Etat& etat) {
