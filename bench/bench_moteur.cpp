@@ -52,7 +52,9 @@ std::string Lettre(int paragraphes) {
     std::string m = "{\\rtf1\\ansi{\\fonttbl{\\f0 Arial;}}{\\colortbl;\\red0\\green0\\blue0;}\r\n";
     for (int i = 0; i < paragraphes; ++i)
         m += "Le GAEC #mrl(nomExplSoc)# de #mrl(commune)#, associ\\'e9s : #mrl(nomAssocies)# "
-             "livre #mrl(VL.don+VL-3a" + std::to_string(i % 200 + 1) + ":0)# litres en "
+             "livre #mrl(VL.don+VL-3a" +
+             std::to_string(i % 200 + 1) +
+             ":0)# litres en "
              "#mrl(an4Deb3)#.\\par\r\n";
     return m + "}\r\n";
 }
@@ -62,8 +64,7 @@ void CreationDUneLettre(benchmark::State& etat, int paragraphes) {
     const auto modele = banc.racine / "modele.vdm";
     std::ofstream(modele, std::ios::binary) << Lettre(paragraphes);
     const Texte resultat = (banc.racine / "resultat.rtf").string();
-    for (auto _ : etat)
-        CreerDocument(banc.ctx, modele.string(), resultat, false, true, false);
+    for (auto _ : etat) CreerDocument(banc.ctx, modele.string(), resultat, false, true, false);
     etat.SetItemsProcessed(etat.iterations() * paragraphes * 5);
     etat.SetLabel("codes");
 }
@@ -96,12 +97,12 @@ void GrosModeleSansCode(benchmark::State& etat) {
     {
         std::ofstream f(modele, std::ios::binary);
         f << "{\\rtf1\r\n";
-        for (int i = 0; i < 100000; ++i) f << "Un paragraphe sans code, rien que du texte.\\par\r\n";
+        for (int i = 0; i < 100000; ++i)
+            f << "Un paragraphe sans code, rien que du texte.\\par\r\n";
         f << "}\r\n";
     }
     const Texte resultat = (banc.racine / "resultat.rtf").string();
-    for (auto _ : etat)
-        CreerDocument(banc.ctx, modele.string(), resultat, false, true, false);
+    for (auto _ : etat) CreerDocument(banc.ctx, modele.string(), resultat, false, true, false);
     etat.SetBytesProcessed(etat.iterations() *
                            static_cast<std::int64_t>(std::filesystem::file_size(modele)));
 }

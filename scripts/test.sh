@@ -5,6 +5,8 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 scripts/setup.sh
 scripts/setup-libreoffice.sh
+# The sources stand as clang-format writes them.
+git ls-files -- '*.cpp' '*.h' | xargs clang-format --dry-run -Werror
 scripts/build.sh build
 ctest --test-dir build --output-on-failure -j "$(nproc)"
 scripts/build.sh build-asan -DCMAKE_BUILD_TYPE=Debug -DVERDANE_SANITIZE=ON

@@ -1,8 +1,8 @@
 #include "data/Catalogue.h"
 
-#include "utils/FluxEnregistrement.h"
 #include "data/ValeurCode.h"
 #include "utils/Chaines.h"
+#include "utils/FluxEnregistrement.h"
 #include "utils/OutilsFichiers.h"
 
 #include <algorithm>

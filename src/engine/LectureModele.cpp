@@ -29,7 +29,9 @@ bool FinitParMotDeControle(std::string_view texte) {
 
 // A line that starts with one of these needs no blank to end the control word before it. Any
 // other start does, "#" included: a code there becomes text that may begin with a letter.
-bool DelimiteDeja(char c) { return c == ' ' || c == '\\' || c == '{' || c == '}'; }
+bool DelimiteDeja(char c) {
+    return c == ' ' || c == '\\' || c == '{' || c == '}';
+}
 
 int CompterMarques(std::string_view ligne) {
     int n = 0;

@@ -76,9 +76,12 @@ LectureOptionsLot LireOptionsLot(const std::vector<Texte>& args) {
             return true;
         };
         Texte v;
-        if (a == "--help" || a == "-h") o.aide = true;
-        else if (a == "--version") o.version = true;
-        else if (a == "--remplacer") o.remplacer = true;
+        if (a == "--help" || a == "-h")
+            o.aide = true;
+        else if (a == "--version")
+            o.version = true;
+        else if (a == "--remplacer")
+            o.remplacer = true;
         else if (a == "--dossier") {
             if (!valeur(o.dossier)) return {std::nullopt, "--dossier demande un répertoire"};
         } else if (a == "--modele") {
@@ -94,9 +97,12 @@ LectureOptionsLot LireOptionsLot(const std::vector<Texte>& args) {
         } else if (a == "--reponse") {
             if (!valeur(v)) return {std::nullopt, "--reponse demande oui ou non"};
             const Texte r = Minuscules(v);
-            if (r == "oui") o.reponse = Reponse::Oui;
-            else if (r == "non") o.reponse = Reponse::Non;
-            else return {std::nullopt, "--reponse demande oui ou non, pas " + v};
+            if (r == "oui")
+                o.reponse = Reponse::Oui;
+            else if (r == "non")
+                o.reponse = Reponse::Non;
+            else
+                return {std::nullopt, "--reponse demande oui ou non, pas " + v};
         } else {
             return {std::nullopt, "option inconnue : " + a};
         }
@@ -142,7 +148,8 @@ BilanLot ExecuterLot(Contexte& ctx, const OptionsLot& o, const Environnement& en
                "Ajoutez --remplacer pour le remplacer.");
         return finir(kSortieUsage);
     }
-    if (!DossierExiste(DossierParent(o.resultat).empty() ? Texte(".") : DossierParent(o.resultat))) {
+    if (!DossierExiste(DossierParent(o.resultat).empty() ? Texte(".")
+                                                         : DossierParent(o.resultat))) {
         Erreur(ctx, "Le répertoire du document résultat n'existe pas : " +
                         DossierParent(o.resultat) + ".");
         return finir(kSortieEchec);
@@ -159,10 +166,14 @@ BilanLot ExecuterLot(Contexte& ctx, const OptionsLot& o, const Environnement& en
     ChargerDossier(ctx);
 
     switch (CreerDocument(ctx, o.modele, o.resultat, false, true, false)) {
-    case IssueCreation::Faite: return finir(kSortieFaite);
-    case IssueCreation::Abandonnee: return finir(kSortieUsage);
-    case IssueCreation::ModeleIllisible: return finir(kSortieUsage);
-    case IssueCreation::ResultatImpossible: return finir(kSortieEchec);
+    case IssueCreation::Faite:
+        return finir(kSortieFaite);
+    case IssueCreation::Abandonnee:
+        return finir(kSortieUsage);
+    case IssueCreation::ModeleIllisible:
+        return finir(kSortieUsage);
+    case IssueCreation::ResultatImpossible:
+        return finir(kSortieEchec);
     }
     return finir(kSortieEchec);
 }
@@ -201,10 +212,10 @@ std::string RapportJson(const OptionsLot& o, const BilanLot& bilan,
         j.Entier("rang", static_cast<long long>(i + 1));
         j.Chaine("titre", ev.message.titre);
         j.Chaine("texte", ev.message.texte);
-        const char* r = ev.reponse == Reponse::Oui     ? "oui"
-                        : ev.reponse == Reponse::Non   ? "non"
-                        : ev.reponse == Reponse::Ok    ? "ok"
-                                                       : "annuler";
+        const char* r = ev.reponse == Reponse::Oui   ? "oui"
+                        : ev.reponse == Reponse::Non ? "non"
+                        : ev.reponse == Reponse::Ok  ? "ok"
+                                                     : "annuler";
         j.Chaine("reponse", r);
         j.FinObjet();
     }

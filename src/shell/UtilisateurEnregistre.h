@@ -10,8 +10,8 @@ namespace verdane {
 
 struct EvenementUtilisateur {
     enum class Genre { Message, Question } genre;
-    Message message;    // for a question: its text and title
-    Reponse reponse{};  // the answer taken
+    Message message;   // for a question: its text and title
+    Reponse reponse{}; // the answer taken
 };
 
 class UtilisateurEnregistre : public PortUtilisateur {

@@ -44,7 +44,9 @@ protected:
     Contexte ctx;
 };
 
-std::string Ligne(char c, std::size_t n) { return std::string(n, c) + "\r\n"; }
+std::string Ligne(char c, std::size_t n) {
+    return std::string(n, c) + "\r\n";
+}
 
 } // namespace
 
@@ -71,9 +73,9 @@ TEST_F(CreationDoc, LesCodesSontRemplacesEtLaJaugeAvance) {
     const std::string r = Creer("A #mrl(un)# B #MRL(deux)# C");
     EXPECT_EQ(r, "A [un] B [deux] C");
     EXPECT_EQ(analyseur.codes, (std::vector<Texte>{"un", "deux"}));
-    EXPECT_EQ(u.jauges, (std::vector<std::string>{"ouvrir:", "1485:50 %", "2970:100 %",
-                                                  "2970:            Création terminée !",
-                                                  "fermer"}));
+    EXPECT_EQ(u.jauges,
+              (std::vector<std::string>{"ouvrir:", "1485:50 %", "2970:100 %",
+                                        "2970:            Création terminée !", "fermer"}));
 }
 
 TEST_F(CreationDoc, UnCodeCoupeEntreDeuxMorceauxEstRetrouve) {
@@ -97,8 +99,7 @@ TEST_F(CreationDoc, LesInformationsDuDocumentNeSontPasInterpretees) {
 }
 
 TEST_F(CreationDoc, UneConditionFausseMangeLaFinDeParagrapheSuivante) {
-    EXPECT_EQ(Creer("A#mrl(faux)#texte cache\\par B\\par C"),
-              "A[faux]texte cache\\p B\\par C");
+    EXPECT_EQ(Creer("A#mrl(faux)#texte cache\\par B\\par C"), "A[faux]texte cache\\p B\\par C");
     // At the end of a piece, the next piece loses its first paragraph end.
     EXPECT_EQ(Creer(Ligne('x', 995) + "#mrl(faux)#\r\nsuite\\par fin\\par"),
               std::string(995, 'x') + "[faux]suite\\p fin\\par");
@@ -134,7 +135,8 @@ TEST_F(CreationDoc, RemplacerUnResultatExistantSeDemande) {
     EXPECT_EQ(CreerDocument(ctx, d / "modele.vdm", d / "resultat.rtf", false, true, true),
               IssueCreation::Abandonnee);
     ASSERT_EQ(u.questions.size(), 1u);
-    EXPECT_EQ(u.questions[0].texte, "Le document demandé existe déjà !\r\nVoulez-vous le remplacer ?");
+    EXPECT_EQ(u.questions[0].texte,
+              "Le document demandé existe déjà !\r\nVoulez-vous le remplacer ?");
     EXPECT_EQ(u.questions[0].parDefaut, Reponse::Non);
     EXPECT_EQ(d.Lire("resultat.rtf"), "ancien");
     u.reponses.push_back(Reponse::Oui);

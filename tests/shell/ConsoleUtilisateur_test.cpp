@@ -39,7 +39,8 @@ TEST(ConsoleUtilisateur, SansTerminalLaQuestionPrendSaReponseParDefautEtLeDit) {
         c.port->Question("Remplacer ?", "Titre", Boutons::OuiNon, Reponse::Non, Icone::Question),
         Reponse::Non);
     // What the terminal gets is UTF-8, literals of the program included.
-    EXPECT_NE(c.Ecrit().find("-> Non (r\xC3\xA9ponse par d\xC3\xA9" "faut : aucun terminal"),
+    EXPECT_NE(c.Ecrit().find("-> Non (r\xC3\xA9ponse par d\xC3\xA9"
+                             "faut : aucun terminal"),
               std::string::npos);
 }
 

@@ -21,10 +21,10 @@ TEST(Texte, LesLettresDuFrancaisOntLeursOctets) {
 }
 
 TEST(Texte, UnUtf8InvalideEstPrisOctetParOctet) {
-    EXPECT_EQ(Utf8VersCp1252("caf\xE9"), "caf\xE9");      // already Windows-1252
-    EXPECT_EQ(Utf8VersCp1252("\xC3"), "\xC3");            // cut sequence
-    EXPECT_EQ(Utf8VersCp1252("\xC0\x80"), "\xC0\x80");    // overlong NUL
-    EXPECT_EQ(Utf8VersCp1252("\xE4\xB8\xAD"), "?");             // no place in Windows-1252
+    EXPECT_EQ(Utf8VersCp1252("caf\xE9"), "caf\xE9");   // already Windows-1252
+    EXPECT_EQ(Utf8VersCp1252("\xC3"), "\xC3");         // cut sequence
+    EXPECT_EQ(Utf8VersCp1252("\xC0\x80"), "\xC0\x80"); // overlong NUL
+    EXPECT_EQ(Utf8VersCp1252("\xE4\xB8\xAD"), "?");    // no place in Windows-1252
 }
 
 TEST(Chaines, LaCasseSePlieAussiSurLesAccents) {
