@@ -22,15 +22,6 @@ constexpr const char* kMoisAbreges[] = {"janv.", "févr.", "mars",  "avr.", "mai
 constexpr const char* kJours[] = {"dimanche", "lundi",    "mardi", "mercredi",
                                   "jeudi",    "vendredi", "samedi"};
 
-bool Bissextile(int a) {
-    return (a % 4 == 0 && a % 100 != 0) || a % 400 == 0;
-}
-
-int JoursDuMois(int mois, int annee) {
-    static constexpr int kJoursMois[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
-    return mois == 2 && Bissextile(annee) ? 29 : kJoursMois[mois - 1];
-}
-
 // 0 for Sunday.
 int JourDeSemaine(int jour, int mois, int annee) {
     static constexpr int t[] = {0, 3, 2, 5, 0, 3, 5, 1, 4, 6, 2, 4};
@@ -101,22 +92,6 @@ std::optional<DateSimple> LireDate(const Texte& texte) {
     if (d.annee < 100) d.annee += d.annee < 30 ? 2000 : 1900;
     if (d.mois < 1 || d.mois > 12 || d.jour < 1 || d.jour > JoursDuMois(d.mois, d.annee))
         return std::nullopt;
-    return d;
-}
-
-DateSimple AjouterAnnees(DateSimple d, int annees) {
-    d.annee += annees;
-    d.jour = std::min(d.jour, JoursDuMois(d.mois, d.annee));
-    return d;
-}
-
-DateSimple VeilleDe(DateSimple d) {
-    if (--d.jour >= 1) return d;
-    if (--d.mois < 1) {
-        d.mois = 12;
-        --d.annee;
-    }
-    d.jour = JoursDuMois(d.mois, d.annee);
     return d;
 }
 

@@ -3,26 +3,18 @@
 
 #include "engine/Champ.h"
 #include "engine/ExtensionsCode.h"
+#include "utils/Calendrier.h"
 
 #include <ctime>
 #include <optional>
 
 namespace verdane {
 
-struct DateSimple {
-    int jour = 1;
-    int mois = 1;
-    int annee = 1;
-};
-
 // A time of the system's clock, in local time.
 Instant InstantLocal(std::time_t t);
 
 // "dd/mm/yyyy" (one or two digits for day and month); nothing if it isn't a real date.
 std::optional<DateSimple> LireDate(const Texte& texte);
-// `d` moved by whole years; 29 February becomes 28 in a year without one.
-DateSimple AjouterAnnees(DateSimple d, int annees);
-DateSimple VeilleDe(DateSimple d);
 // "Jan.", "Fév.", "Mars" ...
 Texte MoisCourt(int mois);
 

@@ -1,6 +1,7 @@
 #include "tables/EntetesTableau.h"
 
 #include "shell/Contexte.h"
+#include "utils/Calendrier.h"
 #include "utils/Chaines.h"
 
 #include <array>
@@ -11,21 +12,7 @@ namespace verdane {
 
 namespace {
 
-struct Date {
-    int jour = 0;
-    int mois = 0;
-    int annee = 0;
-};
-
-bool Bissextile(int a) {
-    return (a % 4 == 0 && a % 100 != 0) || a % 400 == 0;
-}
-
-int JoursDuMois(int mois, int annee) {
-    static constexpr std::array<int, 12> kJours = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
-    if (mois == 2 && Bissextile(annee)) return 29;
-    return kJours[static_cast<std::size_t>(mois - 1)];
-}
+using Date = DateSimple;
 
 // "jj/mm/aaaa", each part a number; nothing if it isn't a real date.
 std::optional<Date> LireDate(const Texte& texte) {
@@ -39,23 +26,6 @@ std::optional<Date> LireDate(const Texte& texte) {
     if (!j || !m || !y || *m < 1 || *m > 12 || *y < 100 || *y > 9000) return std::nullopt;
     Date d{static_cast<int>(*j), static_cast<int>(*m), static_cast<int>(*y)};
     if (d.jour < 1 || d.jour > JoursDuMois(d.mois, d.annee)) return std::nullopt;
-    return d;
-}
-
-// `n` years later; 29 February becomes the 28th in a common year.
-Date AjouterAnnees(Date d, int n) {
-    d.annee += n;
-    if (d.jour > JoursDuMois(d.mois, d.annee)) d.jour = JoursDuMois(d.mois, d.annee);
-    return d;
-}
-
-Date VeilleDe(Date d) {
-    if (--d.jour >= 1) return d;
-    if (--d.mois < 1) {
-        d.mois = 12;
-        --d.annee;
-    }
-    d.jour = JoursDuMois(d.mois, d.annee);
     return d;
 }
 

@@ -4,15 +4,11 @@
 #include "data/ChargerDossier.h"
 #include "domain/FichiersDomaine.h"
 #include "domain/GestEPICerfa.h"
-#include "domain/LignesDomaineMarlo.h"
-#include "domain/TabsActiLibres.h"
-#include "domain/TabsCultures.h"
+#include "engine/CreationDoc.h"
 #include "shell/Contexte.h"
 #include "support/DossierTemporaire.h"
 #include "support/FauxUtilisateur.h"
-#include "tables/GenererTableau.h"
 #include "utils/Chaines.h"
-#include "utils/GestFontTable.h"
 #include "utils/OutilsFichiers.h"
 
 #include <gtest/gtest.h>
@@ -40,46 +36,16 @@ protected:
         ctx.etat.RepDossier[0] = kMarlo + "Dossiers/";
         ctx.etat.NomDossier[0] = "DUPONT";
         ChargerDossier(ctx);
-        BrancherDomaine(ctx);
     }
 
-    // A model with its table marks replaced; the dossier's fields that the pages name are
-    // given their record's value, the other codes stay as a bracketed word.
+    // A model made into a document by the creation driver, its line ends taken out.
     Texte Rendre(const std::string& modele) {
-        Texte texte = LireFichier(kMarlo + "Verdane/ModlDocs/" + modele).value_or("");
-        // The program's palette first: the tables name its colours by their shifted index.
-        AjouterPolices(texte);
-        if (const auto decalage = AjouterCouleurs(texte)) ctx.etat.decalageCouleurs = *decalage;
-        const EnrDossier& e = ctx.etat.enrDossier;
-        Texte r;
-        std::size_t p = 0;
-        for (;;) {
-            const auto debut = texte.find("#mrl(", p);
-            const auto fin = debut == Texte::npos ? debut : texte.find(")#", debut);
-            if (fin == Texte::npos) break;
-            r += texte.substr(p, debut - p);
-            const Texte code = texte.substr(debut + 5, fin - debut - 5);
-            if (CommencePar(code, "tab"))
-                r += GenererTableau(ctx, code);
-            else if (CommencePar(code, "culture") || CommencePar(code, "cultper"))
-                r += TableauCultures(ctx, code);
-            else if (CommencePar(code, "actlibr"))
-                r += TableauActivites(ctx, code);
-            else if (code == "nomExplSoc" || code == "nomExplJA")
-                r += Rogner(e.nomExploitation);
-            else if (code == "nomDossier")
-                r += Rogner(e.nom);
-            else if (code == "adresse")
-                r += Rogner(e.adresse);
-            else if (code == "commune")
-                r += Rogner(e.commune);
-            else
-                r += "[" + code + "]";
-            p = fin + 2;
-        }
-        return r + texte.substr(p);
+        const Texte resultat = travail / "document.rtf";
+        CreerDocument(ctx, kMarlo + "Verdane/ModlDocs/" + modele, resultat, false, true, false);
+        return RemplacerExact(LireFichier(resultat).value_or(""), "\r\n", "");
     }
 
+    test::DossierTemporaire travail;
     test::FauxUtilisateur u;
     Contexte ctx;
 };

@@ -2,16 +2,7 @@
 
 #include "shell/Demarrage.h"
 #include "shell/console/ConsoleUtilisateur.h"
-#ifdef VERDANE_AVEC_UNO
-#include "links/uno/LiensSysteme.h"
-#else
-#include "links/LiensSansOffice.h"
-#endif
-
-#ifdef VERDANE_AVEC_QT
-#include "graphs/qt/ApplicationQt.h"
-#include "graphs/qt/SurfaceQt.h"
-#endif
+#include "shell/main/Plateforme.h"
 
 #include <cstdlib>
 #include <filesystem>
@@ -31,22 +22,10 @@ std::string DossierDuProgramme(const char* argv0) {
 
 int main(int argc, char** argv) {
     using namespace verdane;
-#ifdef VERDANE_AVEC_QT
-    // Made before the run's state, which may hold charts, and so outliving it.
-    qt::ApplicationQt applicationQt(argc, argv);
-    qt::FabriqueSurfaceQt fabriqueSurface;
-#endif
+    Plateforme plateforme(argc, argv); // outlives the run's state
     ConsoleUtilisateur console;
     auto ctx = std::make_unique<Contexte>(console);
-    // The word-processor links live as long as the run; the office they start ends with them.
-#ifdef VERDANE_AVEC_UNO
-    LiensSysteme liens(*ctx);
-#else
-    LiensSansOffice liens(*ctx);
-#endif
-#ifdef VERDANE_AVEC_QT
-    ctx->etat.graphes.fabriqueSurface = &fabriqueSurface;
-#endif
+    const auto liens = plateforme.Brancher(*ctx);
     Environnement env;
     env.dossierProgramme = Utf8VersCp1252(DossierDuProgramme(argc > 0 ? argv[0] : nullptr));
     if (const char* home = std::getenv("MARLO_HOME")) env.marloHome = Utf8VersCp1252(home);

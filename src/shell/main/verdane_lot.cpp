@@ -2,17 +2,8 @@
 
 #include "shell/Lot.h"
 #include "shell/console/ConsoleUtilisateur.h"
-#ifdef VERDANE_AVEC_UNO
-#include "links/uno/LiensSysteme.h"
-#else
-#include "links/LiensSansOffice.h"
-#endif
+#include "shell/main/Plateforme.h"
 #include "utils/EcritureSure.h"
-
-#ifdef VERDANE_AVEC_QT
-#include "graphs/qt/ApplicationQt.h"
-#include "graphs/qt/SurfaceQt.h"
-#endif
 
 #include <cstdio>
 #include <cstdlib>
@@ -38,23 +29,12 @@ int main(int argc, char** argv) {
         return kSortieFaite;
     }
 
-#ifdef VERDANE_AVEC_QT
-    // Made before the run's state, which may hold charts, and so outliving it.
-    qt::ApplicationQt applicationQt(argc, argv);
-    qt::FabriqueSurfaceQt fabriqueSurface;
-#endif
+    Plateforme plateforme(argc, argv); // outlives the run's state
     ConsoleUtilisateur console;
     console.ImposerReponse(options.reponse);
     UtilisateurEnregistre enregistre(console);
     auto ctx = std::make_unique<Contexte>(enregistre);
-#ifdef VERDANE_AVEC_UNO
-    LiensSysteme liens(*ctx);
-#else
-    LiensSansOffice liens(*ctx);
-#endif
-#ifdef VERDANE_AVEC_QT
-    ctx->etat.graphes.fabriqueSurface = &fabriqueSurface;
-#endif
+    const auto liens = plateforme.Brancher(*ctx);
     Environnement env;
     if (const char* home = std::getenv("MARLO_HOME")) env.marloHome = Utf8VersCp1252(home);
 
