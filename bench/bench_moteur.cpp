@@ -7,7 +7,7 @@
 #include "data/ValeurCode.h"
 #include "engine/AnalyserCodes.h"
 #include "engine/CreationDoc.h"
-#include "shell/Contexte.h"
+#include "shell/etat/Contexte.h"
 #include "support/GrandTableau.h"
 #include "tables/GenererTableau.h"
 

@@ -3,13 +3,13 @@
 //
 //   clang++ -std=c++20 -g -O1 -fsanitize=fuzzer,address,undefined -Isrc \
 //       fuzz/fuzz_calculateur.cpp src/tables/Calcul*.cpp src/tables/Formule*.cpp \
-//       src/data/*.cpp src/utils/*.cpp src/shell/Contexte.cpp src/engine/*.cpp \
+//       src/data/*.cpp src/utils/*.cpp src/shell/etat/Contexte.cpp src/engine/*.cpp \
 //       -o fuzz_calculateur
 //   ./fuzz_calculateur -max_len=4096
 //
 // Checks beyond "no crash": a value is a finite number, and a text that gives a value reads.
 
-#include "shell/Contexte.h"
+#include "shell/etat/Contexte.h"
 #include "tables/Calculateur.h"
 #include "tables/Formules.h"
 

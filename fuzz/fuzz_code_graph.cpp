@@ -10,7 +10,7 @@
 
 #include "graphs/CodeGraph.h"
 #include "graphs/FichierGraph.h"
-#include "shell/Contexte.h"
+#include "shell/etat/Contexte.h"
 
 #include <cstddef>
 #include <cstdint>

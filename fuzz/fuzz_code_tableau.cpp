@@ -6,7 +6,7 @@
 // The bytes are a code; the model read from them is written and read again, and the number of
 // lines must hold.
 
-#include "shell/Etat.h"
+#include "shell/etat/Etat.h"
 #include "tables/CodeTableau.h"
 #include "tables/LectureCode.h"
 

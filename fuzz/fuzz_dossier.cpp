@@ -5,7 +5,7 @@
 #include "domain/FichiersDomaine.h"
 #include "domain/TabsCultures.h"
 #include "domain/TabsImmoEmpr.h"
-#include "shell/Contexte.h"
+#include "shell/etat/Contexte.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -5,7 +5,7 @@
 #include "data/EnrDossier.h"
 #include "engine/AnalyserCodes.h"
 #include "engine/LectureModele.h"
-#include "shell/Contexte.h"
+#include "shell/etat/Contexte.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -3,8 +3,11 @@
 # packages already present are left alone. Further package names may be given as arguments.
 set -euo pipefail
 
-paquets=(cmake ninja-build g++ libgtest-dev libgmock-dev libbenchmark-dev clang-format
-         qt6-base-dev qt6-charts-dev libgl-dev fonts-dejavu-core)
+# Debian's qt6-charts-dev does not pull the OpenGL module its CMake files ask for; the desktop
+# bar docks itself through libxcb; git is used by the test command.
+paquets=(cmake ninja-build g++ git libgtest-dev libgmock-dev libbenchmark-dev clang-format
+         qt6-base-dev qt6-charts-dev libqt6opengl6-dev libgl-dev libxcb1-dev
+         fonts-dejavu-core)
 paquets+=("$@")
 manquants=()
 for p in "${paquets[@]}"; do

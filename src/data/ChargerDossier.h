@@ -1,7 +1,7 @@
 #pragma once
 // The dossier of a slot: its folder, and the record of the current dossier.
 
-#include "shell/Contexte.h"
+#include "shell/etat/Contexte.h"
 
 namespace verdane {
 

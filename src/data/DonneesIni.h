@@ -1,7 +1,7 @@
 #pragma once
 // Free texts of donnees.INI, for the `INI:` codes.
 
-#include "shell/Contexte.h"
+#include "shell/etat/Contexte.h"
 
 namespace verdane {
 

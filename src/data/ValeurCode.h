@@ -1,7 +1,7 @@
 #pragma once
 // The reader of data codes: `VLVB.don+VLVB-3a12`, `@c12-3a` and the other forms.
 
-#include "shell/Contexte.h"
+#include "shell/etat/Contexte.h"
 
 #include <cstdint>
 

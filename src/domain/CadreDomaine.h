@@ -2,7 +2,7 @@
 // The hand-laid cell frame that every domain table shares, the number and duration texts, and
 // the closing rule laid under a list.
 
-#include "shell/Contexte.h"
+#include "shell/etat/Contexte.h"
 
 namespace verdane {
 

@@ -5,7 +5,7 @@
 
 #include "domain/EnrCultures.h"
 #include "domain/EnrInvest.h"
-#include "shell/Contexte.h"
+#include "shell/etat/Contexte.h"
 
 #include <optional>
 #include <vector>

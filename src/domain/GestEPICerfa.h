@@ -2,7 +2,7 @@
 // The PDE Cerfa pages: the page list, the model of each page, and the fixed tables that the
 // pages hold as rows of kind `imemp` (`finap`, `finan`, `finaa`, `inve1`, `empr2`, `empr3`).
 
-#include "shell/Contexte.h"
+#include "shell/etat/Contexte.h"
 
 #include <array>
 

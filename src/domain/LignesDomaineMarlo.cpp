@@ -4,7 +4,7 @@
 #include "domain/TabsActiLibres.h"
 #include "domain/TabsCultures.h"
 #include "domain/TabsImmoEmpr.h"
-#include "shell/Contexte.h"
+#include "shell/etat/Contexte.h"
 #include "tables/LectureCode.h"
 #include "utils/Chaines.h"
 

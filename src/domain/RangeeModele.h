@@ -3,7 +3,7 @@
 // formats, and its value columns by the table's year mode. The crop rows and the PDE
 // investments table lay their rows so.
 
-#include "shell/Contexte.h"
+#include "shell/etat/Contexte.h"
 #include "tables/TableauModele.h"
 
 #include <functional>

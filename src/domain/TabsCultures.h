@@ -2,7 +2,7 @@
 // Crop tables: the rows of kinds `cultu` and `cultp` (one row per crop), the values of a crop
 // by series name or by `@` code, and the loop that repeats a whole table for each crop.
 
-#include "shell/Contexte.h"
+#include "shell/etat/Contexte.h"
 #include "tables/TableauModele.h"
 
 #include <functional>

@@ -2,7 +2,7 @@
 // The fixed tables of a row of kind `imemp`: immobilisations, subsidies, loans, the
 // investments-financing table, and the dispatch to the PDE tables.
 
-#include "shell/Contexte.h"
+#include "shell/etat/Contexte.h"
 
 namespace verdane {
 

@@ -1,7 +1,7 @@
 #pragma once
 // The code scanner: finds the marks of a text and hands each code to the interpreter.
 
-#include "shell/Contexte.h"
+#include "shell/etat/Contexte.h"
 
 namespace verdane {
 

@@ -4,7 +4,7 @@
 
 #include "engine/Champ.h"
 #include "engine/ExtensionsCode.h"
-#include "shell/Contexte.h"
+#include "shell/etat/Contexte.h"
 
 #include <optional>
 #include <vector>

@@ -1,7 +1,7 @@
 #pragma once
 // The one routine that turns a model into a finished document, and refreshes a finished one.
 
-#include "shell/Contexte.h"
+#include "shell/etat/Contexte.h"
 
 namespace verdane {
 

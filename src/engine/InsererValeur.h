@@ -2,7 +2,7 @@
 // The value of a code put in the place of its mark, with its annotation when the options ask for
 // one, and the tooltip of the `INFO:` codes.
 
-#include "shell/Contexte.h"
+#include "shell/etat/Contexte.h"
 
 namespace verdane {
 

@@ -1,7 +1,7 @@
 #pragma once
 // The field interpreter: the value of one code, put in the place of its mark.
 
-#include "shell/Contexte.h"
+#include "shell/etat/Contexte.h"
 
 namespace verdane {
 

@@ -4,7 +4,7 @@
 
 #include "engine/Champ.h"
 #include "engine/ExtensionsCode.h"
-#include "shell/Contexte.h"
+#include "shell/etat/Contexte.h"
 
 namespace verdane {
 

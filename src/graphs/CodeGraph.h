@@ -3,7 +3,7 @@
 // header fields each closed by ";", then the series, each between "[" and "]".
 
 #include "graphs/ModeleGraph.h"
-#include "shell/Contexte.h"
+#include "shell/etat/Contexte.h"
 
 #include <string_view>
 

@@ -3,7 +3,7 @@
 // data of the current dossier into a chart of the surface in use.
 
 #include "graphs/SurfaceGraphique.h"
-#include "shell/Contexte.h"
+#include "shell/etat/Contexte.h"
 
 #include <cstdint>
 

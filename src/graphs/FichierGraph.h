@@ -3,7 +3,7 @@
 // in the graph model folder. It is read whole and written whole.
 
 #include "graphs/EtatGraphes.h"
-#include "shell/Contexte.h"
+#include "shell/etat/Contexte.h"
 
 #include <string>
 #include <string_view>

@@ -2,7 +2,7 @@
 // The job GRAPH of the command line while the program has no graph editor: the first graph
 // of the library drawn with the values of the loaded dossier, into a PNG picture.
 
-#include "shell/Contexte.h"
+#include "shell/etat/Contexte.h"
 
 namespace verdane {
 

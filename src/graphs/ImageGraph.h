@@ -2,7 +2,7 @@
 // A gph( code of a document model turned into a chart picture in the result: the code is read
 // into graphes(1), drawn on the hidden chart, and the chart's picture is embedded in the RTF.
 
-#include "shell/Contexte.h"
+#include "shell/etat/Contexte.h"
 
 #include <string>
 

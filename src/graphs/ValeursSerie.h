@@ -1,7 +1,7 @@
 #pragma once
 // The values of one series of a graph, read from a data file of the current dossier.
 
-#include "shell/Contexte.h"
+#include "shell/etat/Contexte.h"
 
 #include <cstddef>
 #include <string_view>

@@ -2,7 +2,7 @@
 // What the word-processor link does at the end of a creation or an update, and the conversion
 // of a document of the library: each a step the creation driver or a dialog calls in turn.
 
-#include "shell/Contexte.h"
+#include "shell/etat/Contexte.h"
 
 #include <optional>
 

@@ -2,7 +2,7 @@
 // What the rest of the program asks of "the" word processor: the dispatch on the linked one,
 // the one save-as of all links, and the names it is known by.
 
-#include "shell/Contexte.h"
+#include "shell/etat/Contexte.h"
 
 namespace verdane {
 

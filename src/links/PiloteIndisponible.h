@@ -2,7 +2,7 @@
 // The link to a word processor that this system can't drive (Word and Word Pro away from
 // Windows): every operation says so plainly and does nothing.
 
-#include "shell/Contexte.h"
+#include "shell/etat/Contexte.h"
 
 namespace verdane {
 

@@ -2,7 +2,7 @@
 // The link to Microsoft Word over late-bound automation.
 
 #include "links/Automation.h"
-#include "shell/Contexte.h"
+#include "shell/etat/Contexte.h"
 
 #include <optional>
 

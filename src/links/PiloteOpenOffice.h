@@ -2,7 +2,7 @@
 // The link to OpenOffice (LibreOffice here): the contract over a running office.
 
 #include "links/BureauOffice.h"
-#include "shell/Contexte.h"
+#include "shell/etat/Contexte.h"
 
 namespace verdane {
 

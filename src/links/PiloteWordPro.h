@@ -3,7 +3,7 @@
 // Word Pro and keeps that one object for its life.
 
 #include "links/Automation.h"
-#include "shell/Contexte.h"
+#include "shell/etat/Contexte.h"
 
 namespace verdane {
 

@@ -1,7 +1,7 @@
 #pragma once
 // The search of the disk for the three word processors, and the stored choice of one.
 
-#include "shell/Contexte.h"
+#include "shell/etat/Contexte.h"
 
 #include <cstddef>
 #include <filesystem>

@@ -1,7 +1,7 @@
 #pragma once
 // The folder tree of the installation, derived once at start.
 
-#include "shell/Etat.h"
+#include "shell/etat/Etat.h"
 
 namespace verdane {
 

@@ -64,6 +64,11 @@ void PreparerDossierLigneCommande(Contexte& ctx, const LigneCommande& ligne) {
 int ExecuterProgramme(Contexte& ctx, const LigneCommande& ligne, const Environnement& env) {
     if (!Initialiser(ctx, env)) return kSortieEchec;
     if (ligne.NbArguments() == 0) {
+        if (ctx.formulaires.Connu("frmBarre")) {
+            const int sortie = ctx.formulaires.Ouvrir(ctx, "frmBarre");
+            EnregistrerOptions(ctx.etat);
+            return sortie;
+        }
         ctx.utilisateur.AfficherMessage(
             {"La barre d'outils de Verdane n'est pas encore disponible dans cette version.",
              "Usage : verdane INI <modèle> <résultat> [ouvrir] [remplacer]\r\n"
@@ -78,7 +83,16 @@ int ExecuterProgramme(Contexte& ctx, const LigneCommande& ligne, const Environne
     } else if (travail == "OUVRIR" || travail == "CREER" || travail == "CERFA" ||
                travail == "GRAPH") {
         PreparerDossierLigneCommande(ctx, ligne);
-        if (travail == "GRAPH")
+        // With a display the job opens its window and ends with it.
+        const Texte forme = travail == "GRAPH"    ? "FrmGraphik"
+                            : travail == "OUVRIR" ? "FrmOuvrDoc"
+                                                  : "FrmCreerDoc";
+        std::vector<Texte> arguments;
+        for (int i = 1; i <= ligne.NbArguments(); ++i) arguments.push_back(ligne.Argument(i));
+        if (ctx.formulaires.Connu(forme))
+            sortie =
+                ctx.formulaires.Ouvrir(ctx, forme, arguments) < 0 ? kSortieEchec : kSortieFaite;
+        else if (travail == "GRAPH")
             sortie = DessinerGraphDossier(ctx) ? kSortieFaite : kSortieEchec;
         else
             sortie = TravailSansFenetre(ctx, travail);

@@ -2,7 +2,7 @@
 // Start of the program: paths, options, parameters, then the job of the command line.
 
 #include "shell/Arguments.h"
-#include "shell/Contexte.h"
+#include "shell/etat/Contexte.h"
 
 namespace verdane {
 

@@ -1,7 +1,7 @@
 #pragma once
 // The options file Editeur.svg: 45 records of 128 bytes in the Verdane folder.
 
-#include "shell/Etat.h"
+#include "shell/etat/Etat.h"
 
 #include <string>
 #include <string_view>

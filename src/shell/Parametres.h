@@ -1,7 +1,7 @@
 #pragma once
 // The parameter file of Marlo, ParamLog/Marlo.par: the bodies (organismes) it lists.
 
-#include "shell/Contexte.h"
+#include "shell/etat/Contexte.h"
 
 #include <optional>
 #include <string>

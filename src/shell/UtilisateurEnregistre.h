@@ -2,7 +2,7 @@
 // A user port that passes everything on to another and keeps a record of what was said and
 // asked, in order: the report of a run.
 
-#include "shell/PortUtilisateur.h"
+#include "shell/etat/PortUtilisateur.h"
 
 #include <vector>
 

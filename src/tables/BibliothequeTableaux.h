@@ -3,7 +3,7 @@
 // line "[name][folder][sub-folder]", a line "#mrl(code)#" and an empty line, lines ending in
 // CR LF. Tables are numbered from 1 in file order.
 
-#include "shell/Etat.h"
+#include "shell/etat/Etat.h"
 #include "tables/TableauModele.h"
 #include "utils/Texte.h"
 

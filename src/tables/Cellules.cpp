@@ -4,7 +4,7 @@
 
 #include "data/FormatNombre.h"
 #include "data/ValeurCode.h"
-#include "shell/Contexte.h"
+#include "shell/etat/Contexte.h"
 #include "tables/DefinitionLigne.h"
 #include "tables/EntetesTableau.h"
 #include "tables/Formules.h"

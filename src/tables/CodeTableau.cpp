@@ -1,6 +1,6 @@
 #include "tables/CodeTableau.h"
 
-#include "shell/Contexte.h"
+#include "shell/etat/Contexte.h"
 #include "tables/LectureCode.h"
 #include "utils/Chaines.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 // Writing a table model as its code, the text that a document mark or the library carries.
 
-#include "shell/Etat.h"
+#include "shell/etat/Etat.h"
 #include "tables/TableauModele.h"
 #include "utils/Texte.h"
 

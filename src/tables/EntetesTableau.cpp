@@ -1,6 +1,6 @@
 #include "tables/EntetesTableau.h"
 
-#include "shell/Contexte.h"
+#include "shell/etat/Contexte.h"
 #include "utils/Calendrier.h"
 #include "utils/Chaines.h"
 

@@ -3,7 +3,7 @@
 // and to the series of the dossier (`LG(`file`-`record`)`, with `!A-1` or `!A`y for another
 // year) become numbers, then the calculator gives the value.
 
-#include "shell/Contexte.h"
+#include "shell/etat/Contexte.h"
 
 #include <cstdint>
 #include <functional>

@@ -1,6 +1,6 @@
 #include "tables/GenererTableau.h"
 
-#include "shell/Contexte.h"
+#include "shell/etat/Contexte.h"
 #include "tables/Cellules.h"
 #include "tables/Formules.h"
 #include "tables/LectureCode.h"

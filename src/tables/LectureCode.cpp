@@ -1,6 +1,6 @@
 #include "tables/LectureCode.h"
 
-#include "shell/Contexte.h"
+#include "shell/etat/Contexte.h"
 
 #include <algorithm>
 #include <optional>

@@ -3,7 +3,7 @@
 #include "engine/AnalyserCodes.h"
 
 #include "data/ValeurCode.h"
-#include "shell/Contexte.h"
+#include "shell/etat/Contexte.h"
 #include "tables/Cellules.h"
 #include "tables/DefinitionLigne.h"
 #include "tables/LignesDomaine.h"

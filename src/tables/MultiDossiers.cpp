@@ -1,6 +1,6 @@
 #include "tables/MultiDossiers.h"
 
-#include "shell/Contexte.h"
+#include "shell/etat/Contexte.h"
 
 #include <algorithm>
 #include <vector>

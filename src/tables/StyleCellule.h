@@ -3,7 +3,7 @@
 // font; size; colour; bold; italic; underlined; struck; shadow; alignment (the text format),
 // then top; bottom; left; right border; background (the frame).
 
-#include "shell/Etat.h"
+#include "shell/etat/Etat.h"
 #include "utils/Texte.h"
 
 #include <string_view>

@@ -4,7 +4,7 @@
 #include "data/EnrDon.h"
 #include "domain/EnrCultures.h"
 #include "domain/EnrInvest.h"
-#include "shell/Contexte.h"
+#include "shell/etat/Contexte.h"
 #include "support/DossierTemporaire.h"
 #include "support/FauxUtilisateur.h"
 

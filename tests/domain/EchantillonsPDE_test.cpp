@@ -5,7 +5,7 @@
 #include "domain/FichiersDomaine.h"
 #include "domain/GestEPICerfa.h"
 #include "engine/CreationDoc.h"
-#include "shell/Contexte.h"
+#include "shell/etat/Contexte.h"
 #include "support/DossierTemporaire.h"
 #include "support/FauxUtilisateur.h"
 #include "utils/Chaines.h"

@@ -2,7 +2,7 @@
 // A dossier of Marlo written into a temporary folder, for the engine's tests.
 
 #include "data/EnrDossier.h"
-#include "shell/Contexte.h"
+#include "shell/etat/Contexte.h"
 #include "support/DossierTemporaire.h"
 #include "utils/OutilsFichiers.h"
 

@@ -4,7 +4,7 @@
 
 #include "engine/AnalyserCodes.h"
 #include "engine/ExtensionsCode.h"
-#include "shell/Contexte.h"
+#include "shell/etat/Contexte.h"
 #include "support/FauxUtilisateur.h"
 
 #include <vector>

@@ -3,7 +3,7 @@
 
 #include "links/Automation.h"
 #include "links/BureauOffice.h"
-#include "shell/PortUtilisateur.h"
+#include "shell/etat/PortUtilisateur.h"
 #include "utils/EcritureSure.h"
 
 #include <deque>

@@ -2,7 +2,7 @@
 // A user port that records what the program says (message forms and boxes, in order; a box
 // has the kind "boite") and asks, and answers from a script (else with the default).
 
-#include "shell/PortUtilisateur.h"
+#include "shell/etat/PortUtilisateur.h"
 
 #include <deque>
 #include <string>

@@ -1,7 +1,7 @@
 #include "tables/CodeTableau.h"
 
 #include "EssaisTableaux.h"
-#include "shell/Contexte.h"
+#include "shell/etat/Contexte.h"
 #include "tables/LectureCode.h"
 
 #include <gtest/gtest.h>

@@ -4,7 +4,7 @@
 
 #include "data/ChargerDossier.h"
 #include "engine/CreationDoc.h"
-#include "shell/Contexte.h"
+#include "shell/etat/Contexte.h"
 #include "support/DossierTemporaire.h"
 #include "support/FauxUtilisateur.h"
 #include "tables/BibliothequeTableaux.h"

@@ -1,6 +1,6 @@
 #include "tables/EntetesTableau.h"
 
-#include "shell/Contexte.h"
+#include "shell/etat/Contexte.h"
 #include "support/FauxUtilisateur.h"
 
 #include <gtest/gtest.h>

@@ -5,7 +5,7 @@
 
 #include "data/EnrDon.h"
 #include "data/EnrDossier.h"
-#include "shell/Contexte.h"
+#include "shell/etat/Contexte.h"
 #include "support/DossierTemporaire.h"
 #include "support/FauxUtilisateur.h"
 #include "tables/LectureCode.h"

@@ -3,7 +3,7 @@
 // from the terminal when stdin is one; otherwise it takes its default and says so, so that a
 // batch run never waits. The gauge is a bar on stderr when stderr is a terminal.
 
-#include "shell/PortUtilisateur.h"
+#include "shell/etat/PortUtilisateur.h"
 
 #include <cstdio>
 #include <optional>

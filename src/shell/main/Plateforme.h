@@ -4,7 +4,7 @@
 // it). Made before the run's state, so that it outlives it; the links it gives are kept by the
 // caller after the state is made, so that they end (and the office they started) before it.
 
-#include "shell/Contexte.h"
+#include "shell/etat/Contexte.h"
 
 #ifdef VERDANE_AVEC_UNO
 #include "links/uno/LiensSysteme.h"

@@ -1,7 +1,9 @@
-// verdane: the program, started with a job on its command line.
+// verdane: the program. With a job on its command line it does that job and ends; with none it
+// is the desktop bar.
 
 #include "shell/Demarrage.h"
 #include "shell/console/ConsoleUtilisateur.h"
+#include "shell/main/Fenetres.h"
 #include "shell/main/Plateforme.h"
 
 #include <cstdlib>
@@ -26,6 +28,7 @@ int main(int argc, char** argv) {
     ConsoleUtilisateur console;
     auto ctx = std::make_unique<Contexte>(console);
     const auto liens = plateforme.Brancher(*ctx);
+    InscrireFenetres(*ctx); // nothing without a display
     Environnement env;
     env.dossierProgramme = Utf8VersCp1252(DossierDuProgramme(argc > 0 ? argv[0] : nullptr));
     if (const char* home = std::getenv("MARLO_HOME")) env.marloHome = Utf8VersCp1252(home);

@@ -4,8 +4,9 @@
 // more than its arguments takes a Contexte by reference.
 
 #include "links/PiloteEditeur.h"
-#include "shell/Etat.h"
-#include "shell/PortUtilisateur.h"
+#include "shell/etat/Etat.h"
+#include "shell/etat/Formulaires.h"
+#include "shell/etat/PortUtilisateur.h"
 
 #include <array>
 
@@ -38,6 +39,8 @@ public:
     // What the interpreter hands to the table, graph and domain engines: the program's own
     // unless a test puts others; null: those codes give an empty value.
     ExtensionsCode* extensions;
+    // The windows of a desktop run; empty in batch runs and tests.
+    RegistreFormulaires formulaires;
 
     PiloteEditeur* Pilote(Editeur e) const { return pilotes[static_cast<std::size_t>(e)]; }
 };

@@ -1,4 +1,4 @@
-#include "shell/Contexte.h"
+#include "shell/etat/Contexte.h"
 
 #include "domain/LignesDomaineMarlo.h"
 #include "engine/AnalyserCodes.h"
