@@ -103,6 +103,10 @@ struct Etat {
     // selection of a multi-dossier table then asks nothing (0: ask as usual).
     std::int16_t nbDossiersImposes = 0;
 
+    // The program runs as the desktop bar: the word processor it starts is shown to the user,
+    // who writes models in it; batch runs keep theirs out of sight.
+    bool editeurVisible = false;
+
     // Number marks of the user's locale, read once at start.
     MarquesNombre marques;
 
