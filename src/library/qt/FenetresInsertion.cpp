@@ -1,0 +1,7 @@
+#include "library/qt/FenetresBibliotheque.h"
+
+namespace verdane::qt {
+
+void InscrireFenetresInsertion(Contexte&) {}
+
+} // namespace verdane::qt
