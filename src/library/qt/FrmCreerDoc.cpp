@@ -100,7 +100,7 @@ FrmCreerDoc::FrmCreerDoc(Contexte& ctx, bool pde, QWidget* parent)
     formulaire->addRow(FramePDE_);
     FramePDE_->setVisible(pde);
 
-    auto* comCreerDoc = Bouton(this, "comCreerDoc", "Créer le document");
+    auto* comCreerDoc = Bouton(this, "comCreerDoc", "&Créer le document");
     comCreerDoc->setDefault(true);
     auto* cmdAnnuler = Bouton(this, "cmdAnnuler", "Annuler");
     auto* boutons = new QHBoxLayout;
@@ -122,6 +122,7 @@ FrmCreerDoc::FrmCreerDoc(Contexte& ctx, bool pde, QWidget* parent)
     ListerModeles();
     RemplirFormats();
     if (pde) ChoisirPage(0);
+    lstModeles_->setFocus(); // the model is the first choice
 
     connect(cmdDossMarlo, &QPushButton::clicked, this, &FrmCreerDoc::ChoisirDossier);
     connect(cmdRepMdl, &QPushButton::clicked, this, &FrmCreerDoc::ChoisirRepertoireModeles);

@@ -33,9 +33,10 @@ void RemplirListe(QTreeWidget& arbre, const ListeFichiers& liste, bool cases) {
             item->setCheckState(0, Qt::Unchecked);
         }
     }
-    arbre.header()->setSectionResizeMode(0, QHeaderView::Stretch);
-    for (int c = 1; c < 5; ++c)
+    // Whole names first: a narrow list scrolls rather than cut them.
+    for (int c = 0; c < 5; ++c)
         arbre.header()->setSectionResizeMode(c, QHeaderView::ResizeToContents);
+    arbre.header()->setStretchLastSection(true);
 }
 
 std::vector<LigneListe> LignesChoisies(const QTreeWidget& arbre, const ListeFichiers& liste) {
