@@ -9,9 +9,9 @@
 #include <algorithm>
 #include <array>
 #include <chrono>
-#include <cstdio>
 #include <ctime>
 #include <filesystem>
+#include <optional>
 #include <system_error>
 
 namespace verdane {
@@ -62,38 +62,38 @@ void SignalerIllisible(ListeFichiers& l) {
     l.titreProbleme = "Lecteur indisponible.";
 }
 
-// Files of the folder whose extension is one of `extensions`.
-void ListerDocuments(ListeFichiers& l, const std::vector<Texte>& extensions, const Etat& etat) {
+// Walks the entries of the listed folder; `ligne` gives the row of an entry, or nothing to
+// leave it out. The rows come out sorted by name.
+template <typename Ligne> void Parcourir(ListeFichiers& l, Ligne ligne) {
     std::error_code ec;
     fs::directory_iterator it(CheminSysteme(l.dossier), ec);
     if (ec) return SignalerIllisible(l);
-    for (; it != fs::directory_iterator(); it.increment(ec)) {
-        std::error_code ef;
-        if (!it->is_regular_file(ef)) continue;
-        const Texte nom = CheminTexte(it->path().filename());
-        const Texte ext = ExtensionMinuscule(nom);
-        if (std::find(extensions.begin(), extensions.end(), ext) == extensions.end()) continue;
-        l.lignes.push_back(LigneFichier(it->path(), nom, TypeDocument(nom), etat));
-    }
+    for (; it != fs::directory_iterator(); it.increment(ec))
+        if (auto r = ligne(*it, CheminTexte(it->path().filename()))) l.lignes.push_back(*r);
     if (ec) SignalerIllisible(l);
     Trier(l.lignes);
 }
 
+// Files of the folder whose extension is one of `extensions`.
+void ListerDocuments(ListeFichiers& l, const std::vector<Texte>& extensions, const Etat& etat) {
+    Parcourir(l, [&](const fs::directory_entry& e, const Texte& nom) -> std::optional<LigneListe> {
+        std::error_code ec;
+        const Texte ext = ExtensionMinuscule(nom);
+        if (!e.is_regular_file(ec) ||
+            std::find(extensions.begin(), extensions.end(), ext) == extensions.end())
+            return std::nullopt;
+        return LigneFichier(e.path(), nom, TypeDocument(nom), etat);
+    });
+}
+
 // Folders of the folder that hold their dossier record (a file of the folder's own name).
 void ListerDossiers(ListeFichiers& l, const Etat& etat) {
-    std::error_code ec;
-    fs::directory_iterator it(CheminSysteme(l.dossier), ec);
-    if (ec) return SignalerIllisible(l);
-    for (; it != fs::directory_iterator(); it.increment(ec)) {
-        std::error_code ef;
-        if (!it->is_directory(ef)) continue;
-        const Texte nom = CheminTexte(it->path().filename());
+    Parcourir(l, [&](const fs::directory_entry& e, const Texte& nom) -> std::optional<LigneListe> {
+        std::error_code ec;
         const Texte enregistrement = l.dossier + nom + "/" + nom;
-        if (!FichierExiste(enregistrement)) continue;
-        l.lignes.push_back(LigneFichier(CheminSysteme(enregistrement), nom, "Dossier Marlo", etat));
-    }
-    if (ec) SignalerIllisible(l);
-    Trier(l.lignes);
+        if (!e.is_directory(ec) || !FichierExiste(enregistrement)) return std::nullopt;
+        return LigneFichier(CheminSysteme(enregistrement), nom, "Dossier Marlo", etat);
+    });
 }
 
 void ListerTableaux(ListeFichiers& l, const Etat& etat) {
