@@ -3,6 +3,7 @@
 #include "data/ChargerDossier.h"
 #include "engine/LectureModele.h"
 #include "links/FinDocument.h"
+#include "shell/etat/Annulation.h"
 #include "utils/Chaines.h"
 #include "utils/EcritureSure.h"
 #include "utils/GestFontTable.h"
@@ -131,11 +132,12 @@ Texte PlainteBaliseManquante() {
            "fin \")#\" : ";
 }
 
-// The main loop of a creation.
-void Creer(Contexte& ctx, std::vector<Texte>& morceaux, Sortie& sortie) {
+// The main loop of a creation. False when the user stopped it.
+bool Creer(Contexte& ctx, std::vector<Texte>& morceaux, Sortie& sortie) {
     Etat& e = ctx.etat;
     const std::size_t nb = morceaux.size();
     for (std::size_t i = 0; i < nb; ++i) {
+        if (AnnulationDemandee(ctx.utilisateur)) return false;
         Morceau m;
         m.p = std::move(morceaux[i]);
         const bool dernier = i + 1 == nb;
@@ -185,15 +187,17 @@ void Creer(Contexte& ctx, std::vector<Texte>& morceaux, Sortie& sortie) {
             break;
         }
     }
+    return true;
 }
 
 // The main loop of an update. Each value standing between a start marker and its end marker
 // is replaced by the value of the code that the end marker keeps; the markers and everything
-// around them stay, so the document can be refreshed again.
-void MettreAJour(Contexte& ctx, std::vector<Texte>& morceaux, Sortie& sortie) {
+// around them stay, so the document can be refreshed again. False when the user stopped it.
+bool MettreAJour(Contexte& ctx, std::vector<Texte>& morceaux, Sortie& sortie) {
     Etat& e = ctx.etat;
     const std::size_t nb = morceaux.size();
     for (std::size_t i = 0; i < nb; ++i) {
+        if (AnnulationDemandee(ctx.utilisateur)) return false;
         Morceau m;
         m.p = std::move(morceaux[i]);
         const bool dernier = i + 1 == nb;
@@ -228,6 +232,7 @@ void MettreAJour(Contexte& ctx, std::vector<Texte>& morceaux, Sortie& sortie) {
             m.o = fin + 2;
         }
     }
+    return true;
 }
 
 void FinirJauge(Contexte& ctx, bool miseAJour) {
@@ -304,10 +309,15 @@ IssueCreation CreerDocument(Contexte& ctx, const Texte& modeleDemande, const Tex
     }
     if (e.NbCodes > 0) ctx.utilisateur.OuvrirJauge(miseAJour ? NomJauge(NomFichier(resultat)) : "");
 
-    if (miseAJour)
-        MettreAJour(ctx, lu.Morceaux, sortie);
-    else
-        Creer(ctx, lu.Morceaux, sortie);
+    const bool complet =
+        miseAJour ? MettreAJour(ctx, lu.Morceaux, sortie) : Creer(ctx, lu.Morceaux, sortie);
+    if (!complet) {
+        // Stopped by the user: the output is dropped unwritten, the document stays as it was.
+        if (e.NbCodes > 0) ctx.utilisateur.FermerJauge();
+        ctx.utilisateur.Sablier(false);
+        ctx.utilisateur.Boite("Traitement en cours annulé.", "Verdane", Icone::Information);
+        return IssueCreation::Abandonnee;
+    }
 
     if (!sortie.Valider()) {
         if (e.NbCodes > 0) ctx.utilisateur.FermerJauge();

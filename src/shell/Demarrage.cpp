@@ -34,7 +34,9 @@ int TravailIni(Contexte& ctx, const LigneCommande& ligne) {
 
 int TravailSansFenetre(Contexte& ctx, const Texte& travail) {
     ctx.utilisateur.AfficherMessage(
-        {"Cette version de Verdane n'a pas de fenêtre pour le travail " + travail + ".",
+        {"Le travail " + travail +
+             " ouvre une fenêtre : il demande un écran (DISPLAY ou WAYLAND_DISPLAY), absent ici, "
+             "et une version de Verdane construite avec ses fenêtres.",
          "Dossier chargé : " + DossierComplet(ctx.etat, 0) +
              "\r\nPour créer un document d'un dossier sans fenêtre, utilisez verdane-lot.",
          "Verdane", ""});

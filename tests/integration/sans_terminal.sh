@@ -27,7 +27,14 @@ grep -q "réponse par défaut" "$travail/erreurs" || { echo "la réponse par dé
 attendre 0 "$verdane" INI "$modele" "$travail/r.rtf" "" remplacer
 attendre 1 "$verdane" INI "$travail/absent.vdm" "$travail/r2.rtf"
 attendre 1 "$verdane" INI "$modele" "$travail/pas/la/r.rtf"
-attendre 2 "$verdane" CREER "$MARLO_HOME/Dossiers/DUPONT"
+# The jobs with a window need a display: without one they say so and point to verdane-lot.
+sans_ecran() { # job, arguments...
+    attendre 2 env -u DISPLAY -u WAYLAND_DISPLAY "$verdane" "$@"
+    grep -q "verdane-lot" "$travail/erreurs" || { echo "$1 : verdane-lot n'est pas cité"; echc=1; }
+}
+sans_ecran CREER "$MARLO_HOME/Dossiers/DUPONT"
+sans_ecran CERFA "$MARLO_HOME/Dossiers/DUPONT"
+sans_ecran OUVRIR "$MARLO_HOME/Dossiers/DUPONT" Bilan
 attendre 2 "$verdane"
 attendre 0 "$lot" --help
 attendre 0 "$lot" --version
