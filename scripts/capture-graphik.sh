@@ -21,8 +21,11 @@ for _ in $(seq 1 100); do
 done
 sleep 1
 import -window root "$sortie/graphik.png"
-# The preview tab, then Escape: the editor saves the library and the job ends.
-xdotool key ctrl+Tab
+# The preview tab (a click on its caption), then Escape: the editor saves the library and the
+# job ends.
+fenetre=$(xdotool search --name "Visionneuse" | head -1)
+eval "$(xdotool getwindowgeometry --shell "$fenetre")"
+xdotool mousemove $((X + 700)) $((Y + 45)) click 1
 sleep 1
 import -window root "$sortie/graphik-apercu.png"
 xdotool key Escape

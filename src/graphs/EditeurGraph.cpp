@@ -98,7 +98,8 @@ void SauverDialogue(const ControlesGraph& c, ModeleGraph& g) {
     g.titre = ChampFixe(c.txtTitre, kLargeurTitreGraph);
     g.typeGraph = IndexVersValeur(c.ComboType, TextesTypesGraph().size(), g.typeGraph);
     g.legende = c.CheckLegend ? 1 : 0;
-    g.empile = c.CheckEmpile ? 1 : 0;
+    // Any non-zero value stacks: a checked box keeps the one the record holds.
+    g.empile = c.CheckEmpile ? (g.empile != 0 ? g.empile : std::int16_t{1}) : std::int16_t{0};
     g.commentaire = ChampFixe(c.TextCommentr, kLargeurCommentaire);
     g.inversion = c.CheckInversionDataSeries ? 1 : 0;
     PoserEntier(c.txtEspaceBarres, g.espaceBarres);

@@ -125,6 +125,7 @@ FrmGraphik::FrmGraphik(Contexte& ctx, const Texte& titre, int graphe, QWidget* p
     imgApercu = new QLabel(this);
     imgApercu->setObjectName("imgApercu");
     imgApercu->setAlignment(Qt::AlignCenter);
+    imgApercu->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
     imgApercu->setToolTip(
         VersQString("Le graphique avec les réglages en cours; l'onglet de définition les "
                     "change."));
@@ -246,6 +247,7 @@ QWidget* FrmGraphik::OngletDefinition() {
         txtAxe[ua] = Boite(cadreAxes, "txtAxe");
         txtAxe[ua]->setObjectName(QStringLiteral("txtAxe%1").arg(a));
         txtAxe[ua]->setMaxLength(static_cast<int>(kLargeurTitreAxe));
+        txtAxe[ua]->setMinimumWidth(140);
         txtAxeSize[ua] = Boite(cadreAxes, "txtAxeSize", 50);
         txtAxeSize[ua]->setObjectName(QStringLiteral("txtAxeSize%1").arg(a));
         txtEpaisseurAxe[ua] = Boite(cadreAxes, "txtEpaisseurAxe", 50);
@@ -278,22 +280,22 @@ QWidget* FrmGraphik::OngletDefinition() {
         typesSeries->addWidget(c);
     }
     typesSeries->addStretch();
-    auto* series = new QHBoxLayout;
-    series->addWidget(TreeViewSeriesS, 1);
-    series->addLayout(fleches);
-    series->addWidget(TreeViewSeriesD, 1);
-    series->addLayout(typesSeries);
 
     GraphRes = new QLabel(page);
     GraphRes->setObjectName("GraphRes");
     GraphRes->setAlignment(Qt::AlignCenter);
     GraphRes->setMinimumSize(kTailleApercu / 2);
+    GraphRes->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+    // Settings above; below, the offered series, the graph's series and the chart as it is.
     auto* haut = new QHBoxLayout;
-    auto* reglages = new QVBoxLayout;
-    reglages->addLayout(general);
-    reglages->addWidget(cadreAxes);
-    haut->addLayout(reglages, 3);
-    haut->addWidget(GraphRes, 2);
+    haut->addLayout(general, 3);
+    haut->addWidget(cadreAxes, 2);
+    auto* series = new QHBoxLayout;
+    series->addWidget(TreeViewSeriesS, 2);
+    series->addLayout(fleches);
+    series->addWidget(TreeViewSeriesD, 2);
+    series->addLayout(typesSeries);
+    series->addWidget(GraphRes, 3);
     auto* tout = new QVBoxLayout(page);
     tout->addLayout(haut);
     tout->addLayout(series, 1);
@@ -461,12 +463,15 @@ void FrmGraphik::Dessiner() {
     } else {
         image_ = QImage();
     }
+    // The picture has twice the chart's size: shown at the size each place gives it.
     const QPixmap pixmap = QPixmap::fromImage(image_);
-    imgApercu->setPixmap(pixmap);
-    GraphRes->setPixmap(pixmap.isNull()
-                            ? pixmap
-                            : pixmap.scaled(GraphRes->minimumSize(), Qt::KeepAspectRatio,
-                                            Qt::SmoothTransformation));
+    const auto montrer = [&pixmap](QLabel* place, QSize taille) {
+        place->setPixmap(
+            pixmap.isNull() ? pixmap
+                            : pixmap.scaled(taille, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    };
+    montrer(imgApercu, imgApercu->size().boundedTo(kTailleApercu * 2));
+    montrer(GraphRes, GraphRes->size());
 }
 
 QImage FrmGraphik::Apercu() const {
@@ -541,6 +546,11 @@ void FrmGraphik::Imprimer() {
 
 void FrmGraphik::Quitter() {
     if (editeur_.Quitter()) Fermer();
+}
+
+void FrmGraphik::resizeEvent(QResizeEvent* e) {
+    QDialog::resizeEvent(e);
+    DessinerPlusTard();
 }
 
 void FrmGraphik::reject() {

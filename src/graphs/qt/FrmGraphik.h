@@ -69,6 +69,7 @@ public:
 
 protected:
     void reject() override;
+    void resizeEvent(QResizeEvent* e) override;
 
 private:
     QWidget* OngletDefinition();
