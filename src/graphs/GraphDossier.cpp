@@ -49,7 +49,9 @@ bool DessinerGraphDossier(Contexte& ctx) {
     }
     u.AfficherMessage({"Le graphique \"" + titre + "\" du dossier " +
                            Rogner(ctx.etat.NomDossier[0]) + " a été dessiné dans " + chemin + ".",
-                       "", kTitreTravail, ""});
+                       "Sans écran, l'éditeur des graphiques ne peut pas s'ouvrir : le premier "
+                       "graphique de la bibliothèque est dessiné en image.",
+                       kTitreTravail, ""});
     return true;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
-// The job GRAPH of the command line while the program has no graph editor: the first graph
-// of the library drawn with the values of the loaded dossier, into a PNG picture.
+// The job GRAPH of the command line where the graph editor can't be shown (no display): the
+// first graph of the library drawn with the values of the loaded dossier, into a PNG picture.
 
 #include "shell/etat/Contexte.h"
 
