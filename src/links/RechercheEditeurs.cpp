@@ -74,14 +74,22 @@ ParametresRecherche ParametresParDefaut() {
     std::error_code ec;
     for (fs::directory_iterator it("/opt", ec), fin; !ec && it != fin; it.increment(ec))
         p.prioritaires.push_back(it->path() / "program");
-    p.racines = {"/"};
     return p;
+}
+
+Texte LibreOfficeInstalle(const ParametresRecherche& parametres) {
+    for (const auto& dossier : parametres.prioritaires)
+        if (Texte trouve = ChercherDans(dossier, "soffice.exe"); !trouve.empty()) return trouve;
+    return {};
 }
 
 Texte ChercherEditeur(Contexte& ctx, const Texte& nom, SuiviRecherche& suivi,
                       const ParametresRecherche& parametres) {
     suivi.Commencer("Recherche de " + nom + " sur votre PC");
+    int progression = 0;
     for (const auto& dossier : parametres.prioritaires) {
+        progression = progression >= 85 ? 0 : progression + 5;
+        suivi.Progresser(progression);
         const Texte trouve = ChercherDans(dossier, nom);
         if (!trouve.empty()) {
             suivi.Terminer();
@@ -90,7 +98,6 @@ Texte ChercherEditeur(Contexte& ctx, const Texte& nom, SuiviRecherche& suivi,
     }
     const std::set<fs::path> exclus = DossiersVirtuels();
     std::deque<fs::path> liste(parametres.racines.begin(), parametres.racines.end());
-    int progression = 0;
     std::size_t vus = 0;
     while (!liste.empty() && vus < parametres.maxDossiers) {
         progression += 5;
