@@ -4,6 +4,7 @@
 #include "shell/Options.h"
 #include "shell/Proprietes.h"
 #include "support/DossierTemporaire.h"
+#include "utils/OutilsFichiers.h"
 
 #include <gtest/gtest.h>
 
