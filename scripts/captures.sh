@@ -32,6 +32,13 @@ attendre_barre() {
 onglet() { # click the middle of tab $1, whose left is given in pixels
     xdotool mousemove "$1" 24 click 1
     sleep 1
+    # A box (a missing skin picture) is answered, so the menu goes on rolling.
+    for b in $(xdotool search --onlyvisible --name '^Erreur' 2>/dev/null); do
+        import -window root "$sortie/boite.png"
+        xdotool windowactivate --sync "$b" key Return 2>/dev/null ||
+            xdotool mousemove 630 496 click 1
+        sleep 1
+    done
 }
 
 "$build/verdane" >"$travail/barre.log" 2>&1 &

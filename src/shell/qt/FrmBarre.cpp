@@ -34,6 +34,8 @@ public:
     std::function<void()> survol;
 
 protected:
+    // The press is taken so that the release comes here.
+    void mousePressEvent(QMouseEvent* e) override { e->accept(); }
     void mouseReleaseEvent(QMouseEvent* e) override {
         if (e->button() == Qt::LeftButton && clic) clic();
     }
@@ -230,9 +232,10 @@ void FrmBarre::ChargerImagesOnglet(int index) {
     const auto charger = [&](const QString& nom, QPixmap& image) {
         const Texte chemin = dossier + DepuisQt(nom);
         image = QPixmap(VersQt(CheminTexte(CheminSysteme(chemin))));
-        if (!image.isNull() || imagesSignalees_.count(nom)) return;
-        // The skin is told missing once per picture; the tab keeps its plain look.
-        imagesSignalees_.insert(nom);
+        if (!image.isNull() || skinSignale_) return;
+        // A missing skin is told once in a run, by its first missing picture; the tabs keep
+        // their plain look.
+        skinSignale_ = true;
         ctx_.utilisateur.Boite("Le Fichier Image du Skin est introuvable !",
                                "Erreur " + DepuisQt(nom), Icone::Attention);
     };
@@ -251,16 +254,16 @@ void FrmBarre::MontrerSelection() {
 
 void FrmBarre::CliquerOnglet(int index) {
     if (index < 0 || index >= kNbOnglets) return;
-    ChargerImagesOnglet(index);
     FrmMenu& menu = *menus_[static_cast<std::size_t>(index)];
     const bool ouvert = gestion_.CliquerOnglet(index, menu);
-    MontrerSelection();
-    if (!ouvert) return;
-    if (menu.menu() == verdane::Menu::Options) {
+    if (ouvert && menu.menu() == verdane::Menu::Options) {
         ChargerOptions(ctx_.etat);
         menu.AfficherProprietes();
     }
     menu.raise();
+    // The menu rolls down while a missing picture is told.
+    ChargerImagesOnglet(index);
+    MontrerSelection();
 }
 
 void FrmBarre::DemanderFermeture() {

@@ -11,7 +11,6 @@
 #include <array>
 #include <functional>
 #include <memory>
-#include <set>
 
 class QLabel;
 
@@ -66,7 +65,7 @@ private:
     QLabel* lblFermer_ = nullptr;
     QLabel* ImageAide_ = nullptr;
     std::array<std::unique_ptr<FrmMenu>, kNbOnglets> menus_;
-    std::set<QString> imagesSignalees_;
+    bool skinSignale_ = false;
     bool fermetureAcceptee_ = false;
 };
 

@@ -66,6 +66,7 @@ public:
 protected:
     void enterEvent(QEnterEvent*) override { Surligner(true); }
     void leaveEvent(QEvent*) override { Surligner(false); }
+    void mousePressEvent(QMouseEvent* e) override { e->accept(); }
     void mouseReleaseEvent(QMouseEvent* e) override {
         if (e->button() == Qt::LeftButton && rect().contains(e->position().toPoint()) && clic)
             clic();
