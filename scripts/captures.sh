@@ -5,7 +5,7 @@
 set -eu
 racine=$(cd "$(dirname "$0")/.." && pwd)
 build=${1:-$racine/build}
-sortie=${2:-$racine/docs/captures}
+sortie=${2:-/tmp/verdane-captures}
 ecran=${VERDANE_ECRAN:-:9}
 mkdir -p "$sortie"
 travail=$(mktemp -d)
@@ -35,7 +35,7 @@ onglet() { # click the middle of tab $1, whose left is given in pixels
     # A box (a missing skin picture) is answered, so the menu goes on rolling.
     for b in $(xdotool search --onlyvisible --name '^Erreur' 2>/dev/null); do
         import -window root "$sortie/boite.png"
-        xdotool windowactivate --sync "$b" key Return 2>/dev/null ||
+        xdotool windowfocus --sync "$b" key Return 2>/dev/null ||
             xdotool mousemove 630 496 click 1
         sleep 1
     done
@@ -51,11 +51,17 @@ xwininfo -id "$w" | grep -E 'Absolute|Width|Height|Map State'
 xprop -id "$w" _NET_WM_WINDOW_TYPE _NET_WM_STRUT _NET_WM_STRUT_PARTIAL
 import -window root -crop 1280x400+0+0 "$sortie/barre.png"
 
-# Tab lefts: 210, 2050, 3700, 5670, 7480, 8790 twips at 15 twips a pixel.
+# Each tab, its menu rolled down, then closed by its own button. Menus stand at 210, 2050,
+# 3700, 5670, 7480, 8790 twips (15 twips a pixel), 280 pixels wide (the properties 360).
 n=0
 for x in 60 180 300 430 540 640; do
     onglet "$x"
     import -window root -crop 1280x400+0+0 "$sortie/menu$n.png"
+    gauche=$(echo "14 137 247 378 499 586" | cut -d' ' -f$((n + 1)))
+    largeur=280
+    [ "$n" -eq 5 ] && largeur=360
+    xdotool mousemove $((gauche + largeur - 12)) 52 click 1
+    sleep 1
     n=$((n + 1))
 done
 
