@@ -75,6 +75,20 @@ TEST_F(Fenetres, ChaqueOngletDerouleSonMenuSousLaBarreASaPlace) {
     EXPECT_EQ(u.messages.front().titre, "Erreur SelOnglet1.bmp");
 }
 
+TEST_F(Fenetres, EnMasquageAutomatiqueSeuleUneBandeResteJusquAuPassageDeLaSouris) {
+    ctx.etat.options.PositionBarre = -1;
+    FrmBarre barre(ctx);
+    barre.show();
+    barre.DockerBarre();
+    EXPECT_EQ(barre.y() + barre.height(), 2 * kBandeMasquee);
+    EXPECT_EQ(barre.height(), kHauteurBarre + kBandeMasquee);
+    barre.MontrerBarre();
+    EXPECT_EQ(barre.y(), 0);
+    EXPECT_EQ(barre.height(), kHauteurBarre);
+    // The tabs are laid again at the top of the shown bar.
+    EXPECT_EQ(barre.findChild<QWidget*>("lblOnglet0")->y(), 6);
+}
+
 TEST_F(Fenetres, UneEntreeSansTraitementDeTexteLeDitEtLeMenuSeReferme) {
     GestionBarre g;
     FrmMenu doc(ctx, g, Menu::Document);
