@@ -4,6 +4,7 @@
 #include "graphs/FichierGraph.h"
 #include "shell/Options.h"
 #include "utils/Chaines.h"
+#include "utils/OutilsFichiers.h"
 
 namespace verdane {
 
@@ -12,6 +13,15 @@ bool PreparerBarre(Contexte& ctx, const ParametresRecherche& recherche) {
     etat.editeurVisible = true;
     etat.PasProgression = 100;
     LireFichierGraph(ctx);
+    const Texte choisi = Rogner(etat.options.CheminEditeur);
+    if (!choisi.empty() && choisi.front() == '/' && !FichierExiste(choisi)) {
+        // A word processor of this system that was removed since it was chosen.
+        ctx.utilisateur.AfficherMessage(
+            {"Le traitement de texte lié à Verdane est introuvable : " + choisi,
+             "Sélectionnez un traitement de texte dans \"PROPRIETES\" -> \"AUTRE CHOIX\".",
+             "Erreur détectée :  cliquez Fermer pour continuer", ""});
+        etat.options.CheminEditeur.clear();
+    }
     if (Rogner(etat.options.CheminEditeur).empty()) {
         etat.options.CheminEditeur = LibreOfficeInstalle(recherche);
         if (!etat.options.CheminEditeur.empty())

@@ -8,7 +8,8 @@
 namespace verdane {
 
 // Steps of the normal start that need no window: the word processor becomes the user's, the
-// graph library is loaded, a user who never chose a word processor gets this system's office
+// graph library is loaded, a chosen word processor of this system that is gone is told and
+// forgotten, a user who never chose a word processor gets this system's office
 // when it is installed (else the editor choice opens, when this build has it), the current
 // dossier is loaded. Returns true when the news window is to be shown.
 bool PreparerBarre(Contexte& ctx, const ParametresRecherche& recherche);

@@ -162,10 +162,22 @@ TEST_F(Barre, UnUtilisateurQuiNAJamaisChoisiAuraLibreOffice) {
     EXPECT_FALSE(PreparerBarre(ctx, r));
     EXPECT_EQ(choix, 1);
     EXPECT_TRUE(ctx.etat.options.CheminEditeur.empty());
-    // A stored choice, even of a program that is gone, is kept and not searched again.
-    ctx.etat.options.CheminEditeur = "/nulle/part/soffice";
+    // A stored choice is kept and not searched again; one that is gone is told and chosen
+    // again.
+    d.Ecrire("ailleurs/soffice", "");
+    ctx.etat.options.CheminEditeur = d / "ailleurs/soffice";
     PreparerBarre(ctx, r);
     EXPECT_EQ(choix, 1);
+    EXPECT_EQ(ctx.etat.options.CheminEditeur, d / "ailleurs/soffice");
+    ctx.etat.options.CheminEditeur = "/nulle/part/soffice";
+    PreparerBarre(ctx, r);
+    EXPECT_EQ(choix, 2);
+    ASSERT_FALSE(u.messages.empty());
+    EXPECT_NE(u.messages.back().texte.find("/nulle/part/soffice"), Texte::npos);
+    // A path of another system is left to the link.
+    ctx.etat.options.CheminEditeur = "C:\\Program Files\\OpenOffice\\soffice.exe";
+    PreparerBarre(ctx, r);
+    EXPECT_EQ(choix, 2);
 }
 
 } // namespace
