@@ -86,10 +86,7 @@ Texte LibreOfficeInstalle(const ParametresRecherche& parametres) {
 Texte ChercherEditeur(Contexte& ctx, const Texte& nom, SuiviRecherche& suivi,
                       const ParametresRecherche& parametres) {
     suivi.Commencer("Recherche de " + nom + " sur votre PC");
-    int progression = 0;
     for (const auto& dossier : parametres.prioritaires) {
-        progression = progression >= 85 ? 0 : progression + 5;
-        suivi.Progresser(progression);
         const Texte trouve = ChercherDans(dossier, nom);
         if (!trouve.empty()) {
             suivi.Terminer();
@@ -98,6 +95,7 @@ Texte ChercherEditeur(Contexte& ctx, const Texte& nom, SuiviRecherche& suivi,
     }
     const std::set<fs::path> exclus = DossiersVirtuels();
     std::deque<fs::path> liste(parametres.racines.begin(), parametres.racines.end());
+    int progression = 0;
     std::size_t vus = 0;
     while (!liste.empty() && vus < parametres.maxDossiers) {
         progression += 5;
