@@ -74,8 +74,13 @@ ParametresRecherche ParametresParDefaut() {
     std::error_code ec;
     for (fs::directory_iterator it("/opt", ec), fin; !ec && it != fin; it.increment(ec))
         p.prioritaires.push_back(it->path() / "program");
-    p.racines = {"/"};
     return p;
+}
+
+Texte LibreOfficeInstalle(const ParametresRecherche& parametres) {
+    for (const auto& dossier : parametres.prioritaires)
+        if (Texte trouve = ChercherDans(dossier, "soffice.exe"); !trouve.empty()) return trouve;
+    return {};
 }
 
 Texte ChercherEditeur(Contexte& ctx, const Texte& nom, SuiviRecherche& suivi,

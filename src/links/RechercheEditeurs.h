@@ -30,8 +30,12 @@ struct ParametresRecherche {
     std::size_t maxDossiers = 200000;
 };
 
-// The folders of PATH and the usual install folders of the office, then the whole disk.
+// The folders of PATH and the usual install folders of the office; no walk of the disk.
 ParametresRecherche ParametresParDefaut();
+
+// The office of this system found in those folders, without a progress window: the choice
+// given to a user who never chose. Empty when LibreOffice isn't installed.
+Texte LibreOfficeInstalle(const ParametresRecherche& parametres);
 
 // The full path of the executable of word processor `nom` ("winword.exe", "wordpro.exe",
 // "soffice.exe"), or empty when not found or when the user cancelled (and was told so).

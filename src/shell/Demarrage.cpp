@@ -72,7 +72,7 @@ int ExecuterProgramme(Contexte& ctx, const LigneCommande& ligne, const Environne
             return sortie;
         }
         ctx.utilisateur.AfficherMessage(
-            {"La barre d'outils de Verdane n'est pas encore disponible dans cette version.",
+            {"La barre d'outils de Verdane a besoin d'un écran : aucun n'est disponible.",
              "Usage : verdane INI <modèle> <résultat> [ouvrir] [remplacer]\r\n"
              "        verdane OUVRIR|CREER|CERFA|GRAPH <dossier> [document]",
              "Verdane", ""});

@@ -8,6 +8,8 @@ marlo=$3
 travail=$(mktemp -d)
 trap 'rm -rf "$travail"' EXIT
 export MARLO_HOME="$travail/Marlo"
+# No display either: with one, the program speaks in windows and the bar opens.
+unset DISPLAY WAYLAND_DISPLAY
 mkdir -p "$MARLO_HOME"
 cp -r "$marlo/ParamLog" "$marlo/Dossiers" "$MARLO_HOME/"
 modele="$marlo/Verdane/ModlDocs/lettre.vdm"

@@ -28,6 +28,7 @@ std::string FabriquerOptions(const std::vector<Section>& description) {
     auto& o = etat.options;
     for (const auto& s : description) {
         o.CheminEditeur = s.Valeur("CheminEditeur", o.CheminEditeur);
+        o.PositionBarre = static_cast<std::int16_t>(s.Entier("PositionBarre", o.PositionBarre));
         o.sautParagraphe = static_cast<std::int16_t>(s.Entier("sautParagraphe", o.sautParagraphe));
         o.SansDemarrage = static_cast<std::int16_t>(s.Entier("SansDemarrage", o.SansDemarrage));
         o.ConvertirViaOO = static_cast<std::int16_t>(s.Entier("ConvertirViaOO", o.ConvertirViaOO));

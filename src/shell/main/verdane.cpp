@@ -5,6 +5,9 @@
 #include "shell/console/ConsoleUtilisateur.h"
 #include "shell/main/Fenetres.h"
 #include "shell/main/Plateforme.h"
+#ifdef VERDANE_QT_SHELL
+#include "shell/qt/UtilisateurQt.h"
+#endif
 
 #include <cstdlib>
 #include <filesystem>
@@ -26,7 +29,16 @@ int main(int argc, char** argv) {
     using namespace verdane;
     Plateforme plateforme(argc, argv); // outlives the run's state
     ConsoleUtilisateur console;
-    auto ctx = std::make_unique<Contexte>(console);
+    // With a display the user is spoken to in windows; the context holds the port, which
+    // outlives it.
+    std::unique_ptr<PortUtilisateur> ecran;
+#ifdef VERDANE_QT_SHELL
+    ecran = qt::UtilisateurEcran(argc > 1);
+#endif
+    auto ctx = std::make_unique<Contexte>(ecran ? *ecran : static_cast<PortUtilisateur&>(console));
+#ifdef VERDANE_QT_SHELL
+    if (auto* q = dynamic_cast<qt::UtilisateurQt*>(ecran.get())) q->PoserContexte(ctx.get());
+#endif
     const auto liens = plateforme.Brancher(*ctx);
     InscrireFenetres(*ctx); // nothing without a display
     Environnement env;

@@ -1,0 +1,298 @@
+// The bar, its menus and its dialogs, driven as a user would, off screen.
+
+#include "links/qt/FrmChoixEditeur.h"
+#include "shell/Options.h"
+#include "shell/qt/FrmAPropos.h"
+#include "shell/qt/FrmAide.h"
+#include "shell/qt/FrmBarre.h"
+#include "shell/qt/FrmDemarrage.h"
+#include "shell/qt/FrmMenu.h"
+#include "shell/qt/InstanceUnique.h"
+#include "shell/qt/UtilisateurQt.h"
+#include "support/DossierTemporaire.h"
+#include "support/FauxUtilisateur.h"
+#include "utils/OutilsFichiers.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QMovie>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScreen>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+
+namespace verdane::qt {
+namespace {
+
+struct Fenetres : ::testing::Test {
+    Fenetres() {
+        ctx.etat.chemins.RepVerdane = d.Chemin() + "Verdane/";
+        ctx.etat.chemins.RepSkin = d.Chemin() + "Skin/SkinVerdane";
+        ctx.etat.chemins.RepImages = d.Chemin() + "Images/";
+    }
+    int Pixels(int twips) const {
+        return TwipsVersPixels(twips, QApplication::primaryScreen()->logicalDotsPerInchX());
+    }
+    test::DossierTemporaire d;
+    test::FauxUtilisateur u;
+    Contexte ctx{u};
+};
+
+void Reposer(GestionBarre& g) {
+    for (int i = 0; i < 1000 && g.EnMouvement(); ++i) g.Tic();
+}
+
+TEST_F(Fenetres, ChaqueOngletDerouleSonMenuSousLaBarreASaPlace) {
+    FrmBarre barre(ctx);
+    barre.DockerBarre();
+    EXPECT_EQ(barre.height(), kHauteurBarre);
+    EXPECT_EQ(barre.width(), QApplication::primaryScreen()->geometry().width());
+    for (int i = 0; i < kNbOnglets; ++i) {
+        barre.CliquerOnglet(i);
+        Reposer(barre.Gestion());
+        FrmMenu* m = barre.Menu(i);
+        ASSERT_TRUE(m->isVisible()) << i;
+        EXPECT_EQ(m->x(), Pixels(GaucheOnglet(i))) << i;
+        EXPECT_EQ(m->y(), kHauteurBarre);
+        EXPECT_EQ(m->height(), Pixels(Definition(MenuOnglet(i)).hauteur)) << i;
+        EXPECT_TRUE(barre.Gestion().OngletSelectionne(i));
+    }
+    // Each closes by its own close button, and only that one.
+    barre.Menu(2)->findChild<QPushButton*>("cmdFermer")->click();
+    Reposer(barre.Gestion());
+    EXPECT_FALSE(barre.Menu(2)->isVisible());
+    EXPECT_TRUE(barre.Menu(1)->isVisible());
+    // The skin is missing here: told once in the run, and the tabs keep a plain look.
+    ASSERT_EQ(u.messages.size(), 1u);
+    EXPECT_EQ(u.messages.front().texte, "Le Fichier Image du Skin est introuvable !");
+    EXPECT_EQ(u.messages.front().titre, "Erreur SelOnglet1.bmp");
+}
+
+TEST_F(Fenetres, EnMasquageAutomatiqueSeuleUneBandeResteJusquAuPassageDeLaSouris) {
+    ctx.etat.options.PositionBarre = -1;
+    FrmBarre barre(ctx);
+    barre.show();
+    barre.DockerBarre();
+    EXPECT_EQ(barre.y() + barre.height(), 2 * kBandeMasquee);
+    EXPECT_EQ(barre.height(), kHauteurBarre + kBandeMasquee);
+    barre.MontrerBarre();
+    EXPECT_EQ(barre.y(), 0);
+    EXPECT_EQ(barre.height(), kHauteurBarre);
+    // The tabs are laid again at the top of the shown bar.
+    EXPECT_EQ(barre.findChild<QWidget*>("lblOnglet0")->y(), 6);
+}
+
+TEST_F(Fenetres, UneEntreeSansTraitementDeTexteLeDitEtLeMenuSeReferme) {
+    GestionBarre g;
+    FrmMenu doc(ctx, g, Menu::Document);
+    g.CliquerOnglet(0, doc);
+    Reposer(g);
+    const auto* entree = doc.findChild<QWidget*>("lblSvgDoc");
+    ASSERT_NE(entree, nullptr);
+    const auto* bulle = entree->findChild<QLabel*>("lblSvgDocBulle");
+    ASSERT_NE(bulle, nullptr);
+    EXPECT_EQ(bulle->text(), QStringLiteral("Sauvegarde rapide d'un modèle ou document"));
+    doc.Cliquer("lblSvgDoc");
+    ASSERT_EQ(u.messages.size(), 1u);
+    EXPECT_EQ(u.messages[0].texte, "Aucun traitement de texte n'est actuellement lié à Verdane !");
+    EXPECT_EQ(g.Jeton(), "CLOSEDOC");
+    Reposer(g);
+    EXPECT_FALSE(doc.isVisible());
+}
+
+TEST_F(Fenetres, LesProprietesMontrentEtEnregistrentLesOptions) {
+    ctx.etat.options.CheminEditeur = "/usr/lib/libreoffice/program/soffice";
+    ctx.etat.options.sautParagraphe = 1;
+    ctx.etat.options.SansDemarrage = 0;
+    ASSERT_TRUE(EnregistrerOptions(ctx.etat));
+    FrmBarre barre(ctx);
+    barre.CliquerOnglet(5);
+    FrmMenu* options = barre.Menu(5);
+    EXPECT_EQ(options->findChild<QLabel*>("lblEditeur")->text(), QStringLiteral("Sun OpenOffice"));
+    EXPECT_TRUE(options->findChild<QRadioButton*>("OptionALaLigne")->isChecked());
+    auto* popup = options->findChild<QCheckBox*>("CheckAffPopup");
+    EXPECT_TRUE(popup->isChecked());
+    options->findChild<QRadioButton*>("OptionALaSuite")->setChecked(true);
+    popup->setChecked(false);
+    options->Cliquer("lblValidProp");
+    EXPECT_EQ(barre.Gestion().Jeton(), "CLOSEPROP");
+
+    Etat relu;
+    relu.chemins = ctx.etat.chemins;
+    ChargerOptions(relu);
+    EXPECT_EQ(relu.options.sautParagraphe, 0);
+    EXPECT_NE(relu.options.SansDemarrage, 0);
+    // Opening the menu again reads the file anew.
+    ctx.etat.options.SansDemarrage = 0;
+    Reposer(barre.Gestion());
+    barre.CliquerOnglet(5);
+    EXPECT_FALSE(popup->isChecked());
+}
+
+TEST_F(Fenetres, UneSeuleBarreParEcranEtUnVerrouMortNeBloquePas) {
+    const QString dossier = QString::fromStdString(d.Chemin() + "run");
+    InstanceUnique premiere(dossier);
+    ASSERT_TRUE(premiere.Prendre());
+    InstanceUnique seconde(dossier);
+    EXPECT_FALSE(seconde.Prendre());
+
+    // The lock of a program that no longer runs (a pid that can't be) is taken over.
+    test::DossierTemporaire autre;
+    const QString dossierMort = QString::fromStdString(autre.Chemin());
+    InstanceUnique modele(dossierMort);
+    {
+        std::ofstream f(modele.Fichier().toStdString());
+        f << "2147483646\nverdane_shell_qt_tests\n"
+          << QSysInfo::machineHostName().toStdString() << "\n";
+    }
+    InstanceUnique apres(dossierMort);
+    EXPECT_TRUE(apres.Prendre());
+}
+
+// Answers the next modal window with the button labelled `bouton`, and notes what it showed.
+struct Repondeur {
+    explicit Repondeur(const QString& bouton) {
+        QTimer::singleShot(0, [this, bouton] {
+            auto* boite = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (!boite) return;
+            titre = boite->windowTitle();
+            if (boite->defaultButton()) parDefaut = boite->defaultButton()->text();
+            for (QAbstractButton* b : boite->buttons()) {
+                libelles << b->text();
+                if (b->text() == bouton) b->click();
+            }
+        });
+    }
+    QString titre, parDefaut;
+    QStringList libelles;
+};
+
+TEST(UtilisateurQt, QuestionsEnFrancaisAvecLeurBoutonParDefaut) {
+    UtilisateurQt port(false);
+    Repondeur r(QStringLiteral("Oui"));
+    EXPECT_EQ(port.Question("Retirer la barre d'outils Verdane ?", "Fermeture Verdane",
+                            Boutons::OuiNon, Reponse::Non, Icone::Question),
+              Reponse::Oui);
+    EXPECT_EQ(r.titre, QStringLiteral("Fermeture Verdane"));
+    EXPECT_EQ(r.parDefaut, QStringLiteral("Non"));
+    EXPECT_EQ(r.libelles.size(), 2);
+
+    Repondeur r2(QStringLiteral("Annuler"));
+    EXPECT_EQ(port.Question("Remplacer ?", "Document existant", Boutons::OuiNonAnnuler,
+                            Reponse::Oui, Icone::Question),
+              Reponse::Annuler);
+    EXPECT_EQ(r2.parDefaut, QStringLiteral("Oui"));
+    EXPECT_TRUE(r2.libelles.contains(QStringLiteral("Non")));
+}
+
+TEST(UtilisateurQt, LeMessageSuitLaRegleDeCouleurEtSeFermeParSonBouton) {
+    EXPECT_EQ(FrmAide::CouleurTexte(""), QColor(192, 0, 0));
+    EXPECT_EQ(FrmAide::CouleurTexte("Aide"), QColor(Qt::black));
+    EXPECT_EQ(FrmAide::CouleurTexte("seule"), QColor(Qt::black));
+
+    FrmAide aide(false);
+    QString vu;
+    int hauteur = 0;
+    // Looks at the panel once it has rolled down whole, then closes it by its button.
+    QTimer regard;
+    int regards = 0;
+    QObject::connect(&regard, &QTimer::timeout, [&] {
+        if (aide.Hauteur() < 3150 && ++regards < 1000) return;
+        regard.stop();
+        vu = aide.lblMessage()->text();
+        hauteur = aide.Hauteur();
+        aide.findChild<QPushButton*>("cmdFermer")->click();
+    });
+    regard.start(5);
+    aide.Afficher({"Fichier introuvable", "détail", "Erreur", ""});
+    EXPECT_EQ(vu, QStringLiteral("Fichier introuvable"));
+    EXPECT_EQ(hauteur, 3150);
+    EXPECT_FALSE(aide.isVisible());
+    // An empty main text leaves the panel as it stands, and shows nothing.
+    aide.Afficher({"", "autre", "Titre", ""});
+    EXPECT_EQ(aide.lblMessage()->text(), QStringLiteral("Fichier introuvable"));
+}
+
+TEST_F(Fenetres, LeMotDePasseDonneLAccesTotal) {
+    FrmMotDePasse mdp(ctx);
+    EXPECT_EQ(mdp.txtMotDePasse()->maxLength(), 6);
+    mdp.txtMotDePasse()->setText("123456");
+    mdp.Valider();
+    EXPECT_EQ(ctx.etat.AccesTotal, 0);
+    mdp.txtMotDePasse()->setText("482915");
+    mdp.Valider();
+    EXPECT_EQ(ctx.etat.AccesTotal, -1);
+    FrmAPropos apropos(ctx);
+    apropos.AccesTotal(); // already total: said, no dialog
+    EXPECT_EQ(u.messages.back().texte, "Vous avez déjà l'accès total !");
+}
+
+TEST_F(Fenetres, LeCompagnonJoueEnBoucleOuLeDitAbsent) {
+    {
+        FrmDemarrage sansImage(ctx);
+        EXPECT_FALSE(sansImage.Anime());
+        ASSERT_EQ(u.messages.size(), 1u);
+        EXPECT_EQ(u.messages[0].texte, "Image introuvable");
+        EXPECT_EQ(u.messages[0].titre, "Erreur fichier");
+    }
+    ctx.etat.chemins.RepImages = VERDANE_SOURCE_DIR "/samples/source/Verdane/Images/";
+    FrmDemarrage demarrage(ctx);
+    ASSERT_TRUE(demarrage.Anime());
+    EXPECT_GT(demarrage.Animation()->frameCount(), 1);
+    EXPECT_EQ(demarrage.Animation()->state(), QMovie::Running);
+    // Once played through it starts again.
+    emit demarrage.Animation()->finished();
+    QApplication::processEvents();
+    EXPECT_EQ(demarrage.Animation()->state(), QMovie::Running);
+
+    // A file that isn't a picture is told the same way.
+    d.Ecrire("Faux/compagnonVd.gif", "GIF89a tronqué");
+    ctx.etat.chemins.RepImages = d.Chemin() + "Faux/";
+    FrmDemarrage abime(ctx);
+    EXPECT_FALSE(abime.Anime());
+}
+
+class SuiviMuet : public SuiviRecherche {
+public:
+    void Commencer(const Texte&) override {}
+    void Progresser(int) override {}
+    bool Annulee() override { return false; }
+    void Terminer() override {}
+};
+
+TEST_F(Fenetres, LeChoixDeLEditeurNeProposeQueCeQuiEstTrouve) {
+    d.Ecrire("office/program/soffice", "");
+    ParametresRecherche r;
+    r.prioritaires = {CheminSysteme(d / "office/program")};
+    FrmChoixEditeur choix(ctx, r);
+    SuiviMuet suivi;
+    choix.Detecter(suivi);
+    EXPECT_FALSE(choix.findChild<QRadioButton*>("OptionWord")->isEnabled());
+    EXPECT_FALSE(choix.findChild<QRadioButton*>("OptionWordPro")->isEnabled());
+    auto* office = choix.findChild<QRadioButton*>("OptionOffice");
+    ASSERT_TRUE(office->isEnabled());
+    office->setChecked(true);
+    EXPECT_EQ(choix.Chemin().toStdString(), d / "office/program/soffice");
+    choix.Valider();
+    Etat relu;
+    relu.chemins = ctx.etat.chemins;
+    ChargerOptions(relu);
+    EXPECT_EQ(relu.options.CheminEditeur, d / "office/program/soffice");
+
+    // An empty choice is told, and still stored.
+    FrmChoixEditeur vide(ctx, r);
+    vide.PoserChemin({});
+    vide.Valider();
+    EXPECT_EQ(u.messages.back().texte, "Le chemin de l'éditeur choisi est vide !");
+    EXPECT_TRUE(ctx.etat.options.CheminEditeur.empty());
+}
+
+} // namespace
+} // namespace verdane::qt
