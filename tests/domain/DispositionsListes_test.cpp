@@ -214,6 +214,12 @@ TEST_F(ListesDeMarlo, ChaqueEnregistrementAvecSesLettresEtSesMots) {
                                 " 90 000}\\cell", " 40 000}\\cell", " 140 000}\\cell"})
         EXPECT_NE(inves.find(montant), std::string::npos) << montant;
 
+    // The PDE's financing plans list the plan's immobilisations.
+    const std::string finap = Rendre("imemp:finap:0");
+    EXPECT_NE(finap.find(" Stabulation}\\cell"), std::string::npos);
+    EXPECT_NE(finap.find(" Fumière}\\cell"), std::string::npos);
+    EXPECT_EQ(finap.find("Hangar"), std::string::npos);
+
     // Loan schedules: flag 1 on page 9's first table, flag 2 on the young farmer's.
     const std::string empr2 = Rendre("imemp:empr2:0");
     EXPECT_NE(empr2.find(" Prêt bâtiment}\\cell"), std::string::npos);
