@@ -11,18 +11,51 @@ namespace verdane {
 
 namespace {
 
-// Decimals that AUTO shows, from the shortest plain text of the value.
-int DecimalesAuto(float valeur) {
+// The shortest plain text that reads back as the float, e.g. "0.125" or "-3".
+std::string TexteCourt(float valeur) {
     char tampon[128];
     const auto r = std::to_chars(tampon, tampon + sizeof tampon, valeur, std::chars_format::fixed);
-    const std::string_view texte(tampon, static_cast<std::size_t>(r.ptr - tampon));
+    return r.ec == std::errc() ? std::string(tampon, r.ptr) : std::string();
+}
+
+// Decimals that AUTO shows, from the shortest plain text of the value.
+int DecimalesAuto(std::string_view texte) {
     const auto point = texte.find('.');
-    if (r.ec != std::errc() || point == std::string_view::npos) return 0;
+    if (point == std::string_view::npos) return 0;
     const auto fraction = texte.substr(point + 1);
     if (fraction.size() == 1) return 1;
     if (fraction[0] == '0' && fraction[1] == '0') return 0;
     if (fraction[1] == '0') return 1;
     return 2;
+}
+
+// A plain decimal text ("-12.345") rounded to n places, half away from zero, as a display
+// pattern rounds what it is given.
+std::string ArrondiDecimal(std::string texte, int n) {
+    const bool negatif = !texte.empty() && texte[0] == '-';
+    if (negatif) texte.erase(0, 1);
+    auto point = texte.find('.');
+    if (point == std::string::npos) {
+        point = texte.size();
+        texte += '.';
+    }
+    const std::size_t garde = point + 1 + static_cast<std::size_t>(n);
+    const bool monter = texte.size() > garde && texte[garde] >= '5';
+    texte.resize(garde, '0');
+    if (monter) {
+        std::size_t i = texte.size();
+        while (i-- > 0) {
+            if (texte[i] == '.') continue;
+            if (texte[i] != '9') {
+                ++texte[i];
+                break;
+            }
+            texte[i] = '0';
+            if (i == 0) texte.insert(0, "1");
+        }
+    }
+    if (n == 0) texte.pop_back();
+    return negatif ? "-" + texte : texte;
 }
 
 // The integer digits with the thousands mark between groups of three.
@@ -46,13 +79,22 @@ Texte FormatNombre(float valeur, std::int16_t decimales, bool videSiZero,
                    const MarquesNombre& marques) {
     if (valeur == 0.0f && videSiZero) return " ";
     if (!std::isfinite(valeur)) return NonFini(valeur);
-    const int n = (decimales >= 0 && decimales <= 6) ? decimales : DecimalesAuto(valeur);
-    // The float's exact value rounded once to n places, ties to even.
-    char tampon[128];
-    const auto r = std::to_chars(tampon, tampon + sizeof tampon, static_cast<double>(valeur),
-                                 std::chars_format::fixed, n);
-    if (r.ec != std::errc()) return "?";
-    std::string_view texte(tampon, static_cast<std::size_t>(r.ptr - tampon));
+    std::string plein;
+    if (decimales >= 0 && decimales <= 6) {
+        // The float's exact value rounded once to that many places, ties to even.
+        char tampon[128];
+        const auto r = std::to_chars(tampon, tampon + sizeof tampon, static_cast<double>(valeur),
+                                     std::chars_format::fixed, decimales);
+        if (r.ec != std::errc()) return "?";
+        plein.assign(tampon, r.ptr);
+    } else {
+        // AUTO: nothing rounded first; the pattern chosen rounds the plain text half away
+        // from zero.
+        const std::string court = TexteCourt(valeur);
+        if (court.empty()) return "?";
+        plein = ArrondiDecimal(court, DecimalesAuto(court));
+    }
+    std::string_view texte(plein);
     const bool negatif = !texte.empty() && texte[0] == '-';
     if (negatif) texte.remove_prefix(1);
     const auto point = texte.find('.');

@@ -17,8 +17,9 @@ struct MarquesNombre {
 };
 
 // `decimales` 0 to 6: rounded to that many places, ties to even; any other value (7, "AUTO"):
-// the pattern is chosen from the number's shortest text. A value of exactly 0 with
-// `videSiZero` gives one blank.
+// nothing is rounded first, the pattern is chosen from the number's shortest text and rounds
+// it half away from zero (0.125 shows "0,13"). A value of exactly 0 with `videSiZero` gives
+// one blank.
 Texte FormatNombre(float valeur, std::int16_t decimales, bool videSiZero,
                    const MarquesNombre& marques = MarquesNombre{});
 

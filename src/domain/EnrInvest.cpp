@@ -7,14 +7,14 @@ namespace verdane {
 namespace {
 
 constexpr auto kDispositionImmo = [](auto& f, auto& e) {
-    f.I32(e.nouvelle);
+    f.F32(e.nouvelle);
     f.Aller(12);
-    f.I32(e.type);
+    f.F32(e.type);
     f.Chaine(e.libelle, 40);
     f.Chaine(e.dateRealisation, 10);
     f.F32(e.montant);
     f.F32(e.duree);
-    f.I32(e.amortissement);
+    f.F32(e.amortissement);
     f.Chaine(e.dateRevente, 10);
     f.F32(e.montantRevente);
     f.F32(e.numPlan);
@@ -26,7 +26,7 @@ constexpr auto kDispositionImmo = [](auto& f, auto& e) {
 };
 
 constexpr auto kDispositionEmprunt = [](auto& f, auto& e) {
-    f.I32(e.nouvelle);
+    f.F32(e.nouvelle);
     f.Aller(12);
     f.I16(e.type);
     f.Chaine(e.libelle, 40);
@@ -70,6 +70,12 @@ constexpr auto kDispositionPlan = [](auto& f, auto& e) {
 };
 
 } // namespace
+
+int CodeEntier(float code) {
+    if (!(code >= 0.0f && code <= 1000.0f)) return -1;
+    const int n = static_cast<int>(code);
+    return static_cast<float>(n) == code ? n : -1;
+}
 
 EnrImmo LireEnrImmo(std::string_view o) {
     return LireEnrDomaine<EnrImmo>(o, kDispositionImmo);

@@ -4,7 +4,6 @@
 #include "data/EnrDon.h"
 #include "utils/Chaines.h"
 #include "utils/ClsIni.h"
-#include "utils/EcritureSure.h"
 #include "utils/OutilsFichiers.h"
 
 #include <charconv>
@@ -47,12 +46,6 @@ Texte TexteNumero(float n) {
     return r.ec == std::errc() ? Texte(tampon, r.ptr) : Texte("0");
 }
 
-void CreerPlansVides(const Texte& chemin) {
-    std::string octets;
-    for (int i = 0; i < EnrPlan::kNbPlans; ++i) octets += EcrireEnrPlan(EnrPlan{});
-    EcrireFichierSur(CheminTexte(CheminSysteme(chemin)), octets);
-}
-
 } // namespace
 
 Texte FichierDossier(const Etat& etat, std::string_view nom) {
@@ -87,10 +80,8 @@ int LireFichierInvest(Contexte& ctx, char cle) {
         d.emprunts = LireListe<EnrEmprunt>(ctx.etat, "Emprunt.emp", LireEnrEmprunt);
         return static_cast<int>(d.emprunts.size());
     case 'p': {
-        const Texte chemin = FichierDossier(ctx.etat, "PlanF.fin");
-        if (!chemin.empty() && !FichierExiste(chemin) && DossierExiste(DossierParent(chemin)))
-            CreerPlansVides(chemin);
-        const auto octets = LireFichier(chemin);
+        // The dossier is Marlo's and only read: a missing plan file is twenty empty plans.
+        const auto octets = LireFichier(FichierDossier(ctx.etat, "PlanF.fin"));
         d.nbPlans = LirePlans(octets ? std::string_view(*octets) : std::string_view{}, d.plans);
         return d.nbPlans;
     }

@@ -17,8 +17,8 @@ Texte FichierDossier(const Etat& etat, std::string_view nom);
 
 // Reads one investment file into its list of EtatDomaine, by key letter: "i" `Immo.imm`,
 // "s" `Sub.sub`, "e" `Emprunt.emp`, "p" `PlanF.fin`. Result: the number of records; for
-// "p", the highest slot 1 to 20 whose label isn't empty. A missing `PlanF.fin` is first
-// created with 20 empty slots. Any other letter gives 0.
+// "p", the highest slot 1 to 20 whose label isn't empty; a missing `PlanF.fin` reads as 20
+// empty slots, and nothing is written. Any other letter gives 0.
 int LireFichierInvest(Contexte& ctx, char cle);
 // The four files at once.
 void LireFichiersInvest(Contexte& ctx);

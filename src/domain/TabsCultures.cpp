@@ -271,6 +271,8 @@ Texte LignesCultures(Contexte& ctx, int ligne, const Texte& prefixe) {
     std::array<Texte, 3> groupes;
     std::array<std::array<float, 14>*, 3> sommes = {&d.totalVente, &d.totalFourrager,
                                                     &d.totalMaraicher};
+    // A missing list file gives nothing at all, total rows included.
+    if (!FichierExiste(FichierDossier(ctx.etat, "cult.clt"))) return "";
     const int nbAnnees = std::clamp<int>(ctx.etat.nbAnEtude, 0, 10);
     for (const auto& culture : LireCultures(ctx.etat)) {
         const int g = Groupe(culture.genre);

@@ -115,17 +115,18 @@ Texte Nombre(const Etat& etat, float v, int decimales) {
 
 Texte LigneImmo(const Etat& etat, const Texte& prefixe, const EnrImmo& e, int dec) {
     const float plusValues = static_cast<float>(e.plusValue1 + e.plusValue2);
-    const std::vector<Texte> t = {LibelleListe(e.libelle, 21),
-                                  DateCourte(e.dateRealisation),
-                                  Nombre(etat, e.montant, dec),
-                                  Lettre("FACIMSD", e.type),
-                                  e.duree > 0 ? Nombre(etat, e.duree, 7) : Texte(),
-                                  Mot({"Lin.", "Dég.", "Dér.", "Lib."}, e.amortissement),
-                                  Nombre(etat, e.differe, 7),
-                                  Nombre(etat, e.lsm, dec),
-                                  DateCourte(e.dateRevente),
-                                  Nombre(etat, e.montantRevente, dec),
-                                  Nombre(etat, plusValues, dec)};
+    const std::vector<Texte> t = {
+        LibelleListe(e.libelle, 21),
+        DateCourte(e.dateRealisation),
+        Nombre(etat, e.montant, dec),
+        Lettre("FACIMSD", CodeEntier(e.type)),
+        e.duree > 0 ? Nombre(etat, e.duree, 7) : Texte(),
+        Mot({"Lin.", "Dég.", "Dér.", "Lib."}, CodeEntier(e.amortissement)),
+        Nombre(etat, e.differe, 7),
+        Nombre(etat, e.lsm, dec),
+        DateCourte(e.dateRevente),
+        Nombre(etat, e.montantRevente, dec),
+        Nombre(etat, plusValues, dec)};
     const std::vector<float> m = {0,     0, e.montant,        0,         0, 0, 0,
                                   e.lsm, 0, e.montantRevente, plusValues};
     return RangeeListe(etat, prefixe, kColonnesImmo, t, m, false, "0", "0") + kFinLigne;
@@ -135,7 +136,7 @@ Texte LigneSub(const Etat& etat, const Texte& prefixe, const EnrImmo& e, int dec
     const std::vector<Texte> t = {Minuscules(Rogner(e.libelle)) + " ",
                                   DateCourte(e.dateRealisation),
                                   Nombre(etat, e.montant, dec),
-                                  Mot({"A terme", "Lin."}, e.type),
+                                  Mot({"A terme", "Lin."}, CodeEntier(e.type)),
                                   Nombre(etat, e.duree, 7),
                                   Rogner(e.dateRevente)};
     return RangeeListe(etat, prefixe, kColonnesSub, t, {0, 0, e.montant}, false, "0", "0", true) +

@@ -131,7 +131,7 @@ std::optional<Champ> ChampListe(const EnrDossier& d, const Texte& code) {
         if (societe)
             for (const auto& a : associes)
                 c.valeur += "- " + a.nom + " : " +
-                            (a.naissance.empty() ? Texte("non renseignée") : a.naissance) +
+                            (DateConnue(a.naissance) ? a.naissance : Texte("non renseignée")) +
                             "\\par ";
         c.phrase = "la liste des associés et leur date de naissance.";
     } else if (code == "situAss") {

@@ -132,11 +132,9 @@ std::optional<Champ> DateExercice(const Texte& code, const Texte& dateDebut) {
         return Champ{std::to_string(finPleine.annee),
                      "l'année de fin d'exercice " + Y + " sur 4 chiffres."};
     if (mot == "mois2Deb")
-        return Champ{std::to_string(debut.mois),
-                     "le mois de début d'exercice " + Y + " écrit en chiffres."};
+        return Champ{Deux(debut.mois), "le mois de début d'exercice " + Y + " écrit en chiffres."};
     if (mot == "mois2Fin")
-        return Champ{std::to_string(fin.mois),
-                     "le mois de fin d'exercice " + Y + " écrit en chiffres."};
+        return Champ{Deux(fin.mois), "le mois de fin d'exercice " + Y + " écrit en chiffres."};
     if (mot == "moisCDeb")
         return Champ{MoisCourt(debut.mois), "le mois de début d'exercice " + Y + clair};
     return Champ{MoisCourt(fin.mois), "le mois de fin d'exercice " + Y + clair};

@@ -23,7 +23,8 @@ void PoserDossier(Etat& e, std::size_t slot, const Texte& dossier) {
     e.NomDossier[slot] = p == Texte::npos ? chemin : chemin.substr(p + 1);
 }
 
-// The dossier's record file, or the text of what is missing.
+// The text of what is missing: the folder or the record file. A record file shorter than its
+// layout is read as far as it goes, as the dossier loader does.
 std::optional<Texte> DossierManquant(const Texte& dossier) {
     if (!DossierExiste(dossier)) return "le dossier " + dossier + " n'existe pas";
     Texte chemin = AjouterBarre(dossier);
@@ -31,8 +32,6 @@ std::optional<Texte> DossierManquant(const Texte& dossier) {
     const Texte enregistrement = AjouterBarre(dossier) + NomFichier(chemin);
     if (!FichierExiste(enregistrement))
         return "le fichier du dossier " + enregistrement + " est introuvable";
-    if (TailleFichier(enregistrement) < static_cast<std::int32_t>(EnrDossier::kTaille))
-        return "le fichier du dossier " + enregistrement + " est tronqué";
     return std::nullopt;
 }
 

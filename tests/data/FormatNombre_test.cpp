@@ -69,6 +69,22 @@ TEST(FormatNombre, Auto) {
     EXPECT_EQ(Fr(-3.75f, 7), "-3,75");
 }
 
+TEST(FormatNombre, AutoArrondiParLeMotifLoinDeZero) {
+    // Nothing is rounded first: the pattern rounds halves away from zero, where the explicit
+    // rounding of 0 to 6 decimals goes to even.
+    EXPECT_EQ(Fr(0.125f, 7), "0,13");
+    EXPECT_EQ(Fr(-0.125f, 7), "-0,13");
+    EXPECT_EQ(Fr(0.125f, 2), "0,12");
+    // The shortest text decides, not the float's binary value (2.67499995...).
+    EXPECT_EQ(Fr(2.675f, 7), "2,68");
+    EXPECT_EQ(Fr(-2.675f, 7), "-2,68");
+    EXPECT_EQ(Fr(2.674f, 7), "2,67");
+    // Carries through the integer part and its thousands.
+    EXPECT_EQ(Fr(0.995f, 7), "1,00");
+    EXPECT_EQ(Fr(999.995f, 7), "1 000,00");
+    EXPECT_EQ(Fr(-9999.995f, 7), "-10 000,00");
+}
+
 TEST(FormatNombre, ValeursExtremesDonnentUnTexte) {
     const float max = std::numeric_limits<float>::max();
     const Texte grand = Fr(max, 6);

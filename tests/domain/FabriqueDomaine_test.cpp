@@ -4,6 +4,7 @@
 #include "domain/EnrCultures.h"
 #include "domain/EnrInvest.h"
 #include "domain/FichiersDomaine.h"
+#include "support/OctetsPlaces.h"
 
 #include <gtest/gtest.h>
 
@@ -47,6 +48,24 @@ TEST(FabriqueDomaine, PlansEmpruntsEtCultures) {
     ASSERT_TRUE(perennes);
     EXPECT_EQ(perennes->nom, "CltP.cpD");
     EXPECT_EQ(LireEnrCulturePerenne(perennes->octets).genre, 1);
+}
+
+TEST(FabriqueDomaine, DrapeauxEtGenresEnFloat32) {
+    // Flags, kinds and amortisation kinds are 4-byte numbers, so float32, as Marlo writes them.
+    const auto immos = fabrique::Fabriquer(
+        "Immo.imm.txt", "[1]\nnouvelle=1\ntype=3\namortissement=1\nlibelle=Stabulation\n", "");
+    ASSERT_TRUE(immos);
+    EXPECT_EQ(immos->octets, test::OctetsPlaces(3096)
+                                 .F32(0, 1)
+                                 .F32(12, 3)
+                                 .Chaine(16, "Stabulation", 40)
+                                 .Chaine(56, "", 10)
+                                 .F32(74, 1)
+                                 .Chaine(78, "", 10)
+                                 .Octets());
+    const auto emprunts = fabrique::Fabriquer("Emprunt.emp.txt", "[1]\nnouvelle=2\n", "");
+    ASSERT_TRUE(emprunts);
+    EXPECT_EQ(emprunts->octets.substr(0, 4), test::OctetsPlaces(4).F32(0, 2).Octets());
 }
 
 } // namespace

@@ -2,72 +2,12 @@
 
 #include "DossierDomaine.h"
 #include "domain/PlansFinancement.h"
-#include "utils/Binaire.h"
 #include "utils/OutilsFichiers.h"
 
 namespace verdane::test {
 namespace {
 
 using FichiersDomaineTest = DossierDomaine;
-
-TEST(EnregistrementsDomaine, ChampsAuxPositionsDuFichier) {
-    EnrImmo i;
-    i.nouvelle = 1;
-    i.type = 4;
-    i.libelle = "Tracteur";
-    i.montant = 85000;
-    i.numPlan = 2;
-    i.lsm = -12.5f;
-    i.plusValue1 = 100.25;
-    i.plusValue2 = 3;
-    const std::string oi = EcrireEnrImmo(i);
-    ASSERT_EQ(oi.size(), 3096u);
-    EXPECT_EQ(LecteurBinaire(oi, 12).I32(), 4);
-    EXPECT_EQ(oi.substr(16, 8), "Tracteur");
-    EXPECT_EQ(LecteurBinaire(oi, 66).F32(), 85000.0f);
-    EXPECT_EQ(LecteurBinaire(oi, 92).F32(), 2.0f);
-    EXPECT_EQ(LecteurBinaire(oi, 100).F32(), -12.5f);
-    EXPECT_EQ(LecteurBinaire(oi, 114).F64(), 100.25);
-    EXPECT_EQ(LecteurBinaire(oi, 122).F64(), 3.0);
-    const EnrImmo relu = LireEnrImmo(oi);
-    EXPECT_EQ(relu.plusValue1, 100.25);
-    EXPECT_EQ(relu.lsm, -12.5f);
-
-    EnrEmprunt e;
-    e.type = 2;
-    e.bonifie = -1;
-    e.montant = 50000;
-    e.periode = 6;
-    e.numPlan = 3;
-    e.annuite[26] = 7;
-    e.capitalRestant[0] = 9;
-    e.echeance2 = 11;
-    const std::string oe = EcrireEnrEmprunt(e);
-    ASSERT_EQ(oe.size(), 1096u);
-    EXPECT_EQ(LecteurBinaire(oe, 12).I16(), 2);
-    EXPECT_EQ(LecteurBinaire(oe, 56).I16(), -1);
-    EXPECT_EQ(LecteurBinaire(oe, 98).F32(), 50000.0f);
-    EXPECT_EQ(LecteurBinaire(oe, 136).F32(), 6.0f);
-    EXPECT_EQ(LecteurBinaire(oe, 160).I16(), 3);
-    EXPECT_EQ(LecteurBinaire(oe, 192 + 26 * 4).F32(), 7.0f);
-    EXPECT_EQ(LecteurBinaire(oe, 732).F32(), 9.0f);
-    EXPECT_EQ(LecteurBinaire(oe, 1064).F32(), 11.0f);
-
-    EnrCulture c;
-    c.numero = 3;
-    c.genre = 4;
-    c.derobee = -1;
-    c.series[static_cast<std::size_t>(IndexSerieCulture("creance"))][10] = 42;
-    c.series[static_cast<std::size_t>(IndexSerieCulture("assolement"))][0] = 12;
-    const std::string oc = EcrireEnrCulture(c);
-    ASSERT_EQ(oc.size(), 1674u);
-    EXPECT_EQ(LecteurBinaire(oc, 40).I16(), 4);
-    EXPECT_EQ(LecteurBinaire(oc, 38).I16(), -1);
-    EXPECT_EQ(LecteurBinaire(oc, 86).F32(), 12.0f);
-    EXPECT_EQ(LecteurBinaire(oc, 1630 + 40).F32(), 42.0f);
-    EXPECT_EQ(EcrireEnrPlan(EnrPlan{}).size(), 116u);
-    EXPECT_EQ(EcrireEnrCulturePerenne(EnrCulturePerenne{}).size(), 52u);
-}
 
 TEST_F(FichiersDomaineTest, FichiersAbsentsVidesOuTronques) {
     EXPECT_EQ(LireFichierInvest(ctx, 'i'), 0);
@@ -87,11 +27,13 @@ TEST_F(FichiersDomaineTest, FichiersAbsentsVidesOuTronques) {
     EXPECT_TRUE(LireModulesAnimaux(ctx.etat).empty());
 }
 
-TEST_F(FichiersDomaineTest, PlanAbsentCreeAvecVingtEmplacements) {
+TEST_F(FichiersDomaineTest, PlanAbsentVingtPlansVidesSansRienEcrire) {
+    ctx.etat.domaine.nbPlans = 3;
+    ctx.etat.domaine.plans[1].libelle = "reste d'un autre dossier";
     EXPECT_EQ(LireFichierInvest(ctx, 'p'), 0);
-    const std::string cree = d.Lire("Ferme/PlanF.fin");
-    ASSERT_EQ(cree.size(), 20u * 116u);
-    EXPECT_EQ(cree.substr(4, 50), std::string(50, ' '));
+    for (const auto& p : ctx.etat.domaine.plans) EXPECT_EQ(p.libelle, "");
+    // The dossier is only read: its folder holds no new file.
+    EXPECT_TRUE(std::filesystem::is_empty(d.Systeme() / "Ferme"));
     // A dossier whose folder isn't there gets no file.
     ctx.etat.NomDossier[0] = "Absent";
     EXPECT_EQ(LireFichierInvest(ctx, 'p'), 0);

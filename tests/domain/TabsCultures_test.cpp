@@ -80,6 +80,15 @@ TEST_F(TabsCulturesTest, SeulementFourrageresEtSansAssol) {
     EXPECT_EQ(LignesCultures(ctx, 0, ""), "");
 }
 
+TEST_F(TabsCulturesTest, ListeAbsenteSansLigneNiTotal) {
+    // A dossier without its crop list: nothing at all, and sums left from a former table read 0.
+    ctx.etat.domaine.totalVente.fill(9);
+    EXPECT_EQ(Lignes(), "");
+    EXPECT_EQ(SerieCultureParNom(ctx.etat.domaine, "totalvente", 2), 0.0f);
+    Cultures({Culture("Prairie", 3, 1, 5)});
+    EXPECT_EQ(Compter(Lignes(), "\\row"), 4);
+}
+
 TEST_F(TabsCulturesTest, CodesArobaseEtComposites) {
     ctx.etat.domaine.numCulture = 7;
     ctx.etat.domaine.cultureCourante.genre = 2;

@@ -115,6 +115,13 @@ TEST_F(Champs, AgesInconnusEtIllisibles) {
     dossier.Installer(m.ctx, d);
     // The JA partner's unknown date gives an empty age, not that of entry 0.
     EXPECT_EQ(m.Valeur("ageExplJA"), "\\~");
+    // In the lists the starred date is unknown as the blank one is.
+    EXPECT_EQ(m.Valeur("assNesLe"),
+              "Date de naissance des associés : \\par - Jean Martin : 12/03/1960\\par - Paul "
+              "Martin : non renseignée\\par - Marie Martin : non renseignée\\par");
+    EXPECT_EQ(m.Valeur("associes"),
+              "Liste des associés : \\par - Jean Martin, né(e) le : 12/03/1960\\par - Paul "
+              "Martin, Jeune Agriculteur\\par - Marie Martin\\par");
     m.ctx.etat.enrDossier.jaAssocie[2] = 0;
     // 22/11/2026 against 10/12/1970, months of 30.5 days: 55.9 years.
     EXPECT_EQ(m.Valeur("ageExplJA"), "55");

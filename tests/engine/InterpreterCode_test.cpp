@@ -26,7 +26,7 @@ TEST_F(Interpreteur, DatesDesExercices) {
     EXPECT_EQ(m.Valeur("an4Fin1"), "2005");
     EXPECT_EQ(m.Valeur("an2Deb1"), "04");
     EXPECT_EQ(m.Valeur("mois2Deb1"), "10");
-    EXPECT_EQ(m.Valeur("mois2Fin1"), "9");
+    EXPECT_EQ(m.Valeur("mois2Fin1"), "09");
     EXPECT_EQ(m.Valeur("moisCFin3"), "Sep.");
 
     // A calendar exercise: the "Fin" years take no day off.

@@ -42,13 +42,13 @@ template <typename Faire> std::string ParSection(const std::vector<Section>& d, 
 std::string FabriquerImmobilisations(const std::vector<Section>& d) {
     return ParSection(d, [](const Section& s) {
         EnrImmo e;
-        e.nouvelle = static_cast<std::int32_t>(s.Entier("nouvelle"));
-        e.type = static_cast<std::int32_t>(s.Entier("type"));
+        e.nouvelle = Reel(s, "nouvelle");
+        e.type = Reel(s, "type");
         e.libelle = s.Valeur("libelle");
         e.dateRealisation = s.Valeur("dateRealisation");
         e.montant = Reel(s, "montant");
         e.duree = Reel(s, "duree");
-        e.amortissement = static_cast<std::int32_t>(s.Entier("amortissement"));
+        e.amortissement = Reel(s, "amortissement");
         e.dateRevente = s.Valeur("dateRevente");
         e.montantRevente = Reel(s, "montantRevente");
         e.numPlan = Reel(s, "plan");
@@ -63,7 +63,7 @@ std::string FabriquerImmobilisations(const std::vector<Section>& d) {
 std::string FabriquerEmprunts(const std::vector<Section>& d) {
     return ParSection(d, [](const Section& s) {
         EnrEmprunt e;
-        e.nouvelle = static_cast<std::int32_t>(s.Entier("nouvelle"));
+        e.nouvelle = Reel(s, "nouvelle");
         e.type = static_cast<std::int16_t>(s.Entier("type"));
         e.libelle = s.Valeur("libelle");
         e.bonifie = static_cast<std::int16_t>(s.Entier("bonifie"));
