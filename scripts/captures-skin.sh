@@ -20,16 +20,17 @@ done
 # A display of our own, on the first free number from 90.
 n=90
 while [ -e "/tmp/.X11-unix/X$n" ] || [ -e "/tmp/.X$n-lock" ]; do n=$((n + 1)); done
+mkdir -p "$sortie/run" && chmod 700 "$sortie/run"
+export XDG_RUNTIME_DIR="$sortie/run"
 Xvfb ":$n" -br -screen 0 2200x1400x24 >/dev/null 2>&1 &
 xvfb=$!
 trap 'kill $xvfb 2>/dev/null || true' EXIT
 sleep 1
 
-capture() { # name, skin folder, environment...
-    local nom=$1 dossier=$2
-    shift 2
-    env DISPLAY=":$n" XDG_RUNTIME_DIR="${XDG_RUNTIME_DIR:-/tmp}" "$@" \
-        "$build"/src/skin/qt/apercu-skin "$dossier" 5000 &
+capture() { # name, skin folder, "menu" or "", environment...
+    local nom=$1 dossier=$2 menu=$3
+    shift 3
+    env DISPLAY=":$n" "$@" "$build"/src/skin/qt/apercu-skin "$dossier" 5000 $menu &
     local programme=$!
     sleep 3
     import -display ":$n" -window root "$sortie/$nom.png"
@@ -37,6 +38,7 @@ capture() { # name, skin folder, environment...
     wait $programme || true
     echo "$sortie/$nom.png"
 }
-capture skin-96dpi "$skin"
-capture skin-192dpi "$skin" QT_SCALE_FACTOR=2
-capture autre-bitmap "$autre"
+capture skin-96dpi "$skin" ""
+capture skin-192dpi "$skin" "" QT_SCALE_FACTOR=2
+capture menu-systeme "$skin" menu
+capture autre-bitmap "$autre" ""

@@ -28,6 +28,7 @@ const std::uint32_t kTeintesOnglets[6] = {0x4A90D9, 0x2BA59B, 0x5DAA4F,
 // Where each piece lies in the bitmap (logical pixels).
 constexpr int kLargeurImage = 200, kHauteurImage = 128;
 constexpr int kHauteurTitre = 32;
+constexpr int kBoutonHaut = 4; // where the title buttons stand in the window
 constexpr int kBoutonL = 28, kBoutonH = 24, kBoutonsY = 32, kBoutonsEnfoncesY = 56;
 constexpr int kComL = 96, kComH = 28, kComY = 80, kComBasX = 100;
 constexpr int kIconeY = 112, kIcone = 16;
@@ -66,7 +67,11 @@ std::string Image(int echelle) {
         const float y = rang == 0 ? kBoutonsY : kBoutonsEnfoncesY;
         for (int b = 0; b < 4; ++b) {
             const float x = float(b * kBoutonL);
-            t.Rectangle(x, y, kBoutonL, kBoutonH, Couleur::Hex(0x2A4060));
+            // The title band behind, as it runs from the button's top to its bottom.
+            const float haut = 4.f / (kHauteurTitre - 2),
+                        bas = (4.f + kBoutonH) / (kHauteurTitre - 2);
+            t.Rectangle(x, y, kBoutonL, kBoutonH, kTitreHaut.Melange(kTitreBas, haut),
+                        kTitreHaut.Melange(kTitreBas, bas));
             if (rang == 1)
                 t.Arrondi(x + 1, y + 1, kBoutonL - 2, kBoutonH - 2, 4,
                           b == 3 ? kFermerEnfonce : kEnfonce, b == 3 ? kFermerEnfonce : kEnfonce);
@@ -139,10 +144,10 @@ std::string Description() {
     const std::string L = std::to_string(kBoutonL), H = std::to_string(kBoutonH);
     auto bouton = [&](const char* cle, int b, const std::string& x) {
         const std::string sx = std::to_string(b * kBoutonL);
-        return std::string("posb") + cle + " = " + x + ",4," + L + "," + H + ", " + sx + "," +
-               std::to_string(kBoutonsY) + "," + L + "," + H + "\r\nposb" + cle + "1 = " + x +
-               ",4," + L + "," + H + ", " + sx + "," + std::to_string(kBoutonsEnfoncesY) + "," + L +
-               "," + H + "\r\n";
+        return std::string("posb") + cle + " = " + x + "," + std::to_string(kBoutonHaut) + "," + L +
+               "," + H + ", " + sx + "," + std::to_string(kBoutonsY) + "," + L + "," + H +
+               "\r\nposb" + cle + "1 = " + x + "," + std::to_string(kBoutonHaut) + "," + L + "," +
+               H + ", " + sx + "," + std::to_string(kBoutonsEnfoncesY) + "," + L + "," + H + "\r\n";
     };
     auto icone = [&](const char* cle, int b) {
         return std::string("menu.") + cle + " = 0,0,16,16, " + std::to_string(b * kIcone) + "," +

@@ -1,9 +1,10 @@
-// apercu-skin FOLDER [milliseconds]: shows sample windows wearing the skin of FOLDER (its
+// apercu-skin FOLDER [milliseconds [menu]]: shows sample windows wearing the skin of FOLDER (its
 // Skin.ini and pictures) and the bar's tab pictures, to look at a skin without the program.
-// Ends after the given time when one is given.
+// Ends after the given time when one is given; "menu" opens the first window's system menu.
 
 #include "shell/console/ConsoleUtilisateur.h"
 #include "skin/qt/BoutonSkinQt.h"
+#include "skin/qt/CadreFenetre.h"
 #include "skin/qt/HabillageSkin.h"
 #include "utils/OutilsFichiers.h"
 
@@ -109,6 +110,12 @@ int main(int argc, char** argv) {
     barre->move(60, 360);
     barre->show();
 
+    if (argc > 3 && QString(argv[3]) == "menu") {
+        QTimer::singleShot(500, &creer, [&creer] {
+            if (auto* cadre = qt::CadreFenetre::De(&creer))
+                cadre->OuvrirMenuSysteme(creer.mapToGlobal(QPoint(4, 32)));
+        });
+    }
     if (argc > 2) QTimer::singleShot(QString(argv[2]).toInt(), &app, &QApplication::quit);
     const int r = app.exec();
     delete barre;
