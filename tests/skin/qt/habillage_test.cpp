@@ -217,6 +217,35 @@ TEST_F(Habillage, SansSkinIniRienNEstHabille) {
     EXPECT_EQ(utilisateur.messages.size(), 1u);
 }
 
+TEST_F(Habillage, UnSkinFautifSeDessineSansFaute) {
+    dossier.Ecrire("Skin.ini", "fichier = skin.bmp\n"
+                               "heighttitre = 20\n"
+                               "pos = 0,0,me.width*32767,me.height*32767, 0,0,8,8\n"
+                               "pos = -500,-500,me.width+900,10, 0,0,16,30\n"
+                               "pos = 0,0,me.width/0,10, 0,0,8,8\n"
+                               "pos = 0,0,10,10, 5000,5000,8,8\n"
+                               "posbend = me.width-20,0,20,20, 190,120,50,50\n"
+                               "lbltitre.pos = 0,0,me.width*-3,20\n"
+                               "button.mup = -100,-100,99999,5\n");
+    Installer();
+    auto d = Dialogue();
+    d->resize(300, 150);
+    d->show();
+    ASSERT_TRUE(CadreFenetre::De(d.get()));
+    EXPECT_FALSE(d->grab().isNull());
+    EXPECT_TRUE(utilisateur.ADit("division par zéro"));
+    EXPECT_TRUE(utilisateur.ADit("source hors de l'image"));
+    EXPECT_TRUE(utilisateur.ADit("source en partie hors de l'image"));
+    // The bitmap missing: said, and the frame drawn in the window's colour.
+    dossier.Ecrire("Skin.ini", "fichier = absente.bmp\nheighttitre = 20\n");
+    Installer();
+    auto e = Dialogue();
+    e->show();
+    ASSERT_TRUE(CadreFenetre::De(e.get()));
+    EXPECT_TRUE(utilisateur.ADit("Le Fichier Image du Skin est introuvable !"));
+    EXPECT_FALSE(e->grab().isNull());
+}
+
 TEST_F(Habillage, BoutonSkinUnClicParLibelle) {
     auto d = Dialogue();
     d->show();
