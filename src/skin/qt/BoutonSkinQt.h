@@ -21,6 +21,7 @@ public:
 
     // Takes the skin's button data and cuts the pictures (Make_Skin).
     void Make_Skin(std::shared_ptr<const SkinQt> skin);
+    const std::shared_ptr<const SkinQt>& Skin() const { return skin_; }
     skin::BoutonSkin& Etat() { return bouton_; }
     const skin::BoutonSkin& Etat() const { return bouton_; }
 

@@ -57,6 +57,8 @@ bool HabillageSkin::Habiller(QWidget* fenetre) {
     if (!skin) return false;
     new CadreFenetre(fenetre, skin);
     for (auto* bouton : fenetre->findChildren<QPushButton*>()) HabillerBouton(bouton);
+    // The skinned buttons of the window take the skin's button data.
+    for (auto* com : fenetre->findChildren<comSkin*>()) com->Make_Skin(skin);
     return true;
 }
 
@@ -77,9 +79,9 @@ bool HabillageSkin::eventFilter(QObject* objet, QEvent* e) {
     if (AHabiller(w)) {
         const bool tardif = type == QEvent::Show && !w->testAttribute(Qt::WA_Resized);
         if (Habiller(w) && tardif) w->adjustSize();
-    } else if (type == QEvent::Polish && qobject_cast<QPushButton*>(w) &&
-               CadreFenetre::De(w->window())) {
-        HabillerBouton(w);
+    } else if (type == QEvent::Polish && CadreFenetre::De(w->window())) {
+        if (qobject_cast<QPushButton*>(w)) HabillerBouton(w);
+        if (auto* com = qobject_cast<comSkin*>(w); com && !com->Skin()) com->Make_Skin(skin_);
     }
     return false;
 }

@@ -82,6 +82,11 @@ TEST_F(Habillage, UneFenetreEstHabilleeASaPremiereApparition) {
     // The content stands under the title.
     EXPECT_GE(bouton->geometry().top(), skin.hauteurTitre);
     EXPECT_TRUE(qobject_cast<StyleBoutonSkin*>(bouton->style()));
+    // A skinned button of the window takes the skin's data.
+    auto* com = new comSkin(d.get());
+    d->layout()->addWidget(com);
+    com->show();
+    EXPECT_TRUE(com->Etat().SourceHaut());
     // A button added later is dressed when it is polished.
     auto* second = new QPushButton("Annuler", d.get());
     d->layout()->addWidget(second);
