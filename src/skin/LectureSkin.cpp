@@ -55,7 +55,8 @@ public:
     void Avertir(const Texte& message) {
         auto& a = l_.avertissements;
         if (a.size() < kMaxAvertissements)
-            a.push_back("ligne " + std::to_string(numero_) + " : " + message);
+            a.push_back(numero_ > 0 ? "ligne " + std::to_string(numero_) + " : " + message
+                                    : message);
         else if (a.size() == kMaxAvertissements)
             a.push_back("... et d'autres lignes fautives.");
     }
