@@ -1,0 +1,281 @@
+// Windows dressed by the hook with the program's own skin, and with a skin of another bitmap.
+
+#include "FabriqueSkin.h"
+#include "skin/qt/BoutonSkinQt.h"
+#include "skin/qt/CadreFenetre.h"
+#include "skin/qt/HabillageSkin.h"
+#include "support/DossierTemporaire.h"
+#include "support/FauxUtilisateur.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+#include <QVBoxLayout>
+
+#include <gtest/gtest.h>
+
+namespace verdane::qt {
+namespace {
+
+class Habillage : public testing::Test {
+protected:
+    void SetUp() override {
+        for (const auto& f : fabrique::FabriquerSkin()) dossier.Ecrire(f.nom, f.octets);
+        Installer();
+    }
+    void TearDown() override { qApp->removeEventFilter(habillage.get()); }
+    void Installer() {
+        if (habillage) qApp->removeEventFilter(habillage.get());
+        habillage = std::make_unique<HabillageSkin>([this](bool& definitif) {
+            definitif = true;
+            return SkinQt::Charger(utilisateur, dossier / "Skin.ini");
+        });
+        qApp->installEventFilter(habillage.get());
+    }
+    // A dialog as the other subsystems make them: a layout, a label-less button.
+    std::unique_ptr<QDialog> Dialogue(const char* titre = "Ouvrir un document") {
+        auto d = std::make_unique<QDialog>();
+        d->setWindowTitle(QString::fromStdString(Cp1252VersUtf8(titre)));
+        auto* couche = new QVBoxLayout(d.get());
+        bouton = new QPushButton("Valider", d.get());
+        couche->addWidget(bouton);
+        return d;
+    }
+    static void Souris(QWidget* w, QEvent::Type type, QPoint p, Qt::MouseButtons boutons) {
+        const QPoint global = w->mapToGlobal(p);
+        QMouseEvent e(type, QPointF(p), QPointF(global),
+                      type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton, boutons,
+                      Qt::NoModifier);
+        QCoreApplication::sendEvent(w, &e);
+    }
+    static QPoint Centre(const CadreFenetre& cadre, QWidget* w, int bouton) {
+        const auto d = cadre.Cadre().Dessin(w->width(), w->height());
+        for (std::size_t i = 0; i < d.boutons.size(); ++i)
+            if (d.numerosBoutons[i] == bouton) {
+                const auto& r = d.boutons[i].destination;
+                return {r.x + r.largeur / 2, r.y + r.hauteur / 2};
+            }
+        return {};
+    }
+
+    test::DossierTemporaire dossier;
+    test::FauxUtilisateur utilisateur;
+    std::unique_ptr<HabillageSkin> habillage;
+    QPushButton* bouton = nullptr;
+};
+
+TEST_F(Habillage, UneFenetreEstHabilleeASaPremiereApparition) {
+    auto d = Dialogue();
+    d->show();
+    const auto* cadre = CadreFenetre::De(d.get());
+    ASSERT_TRUE(cadre);
+    EXPECT_TRUE(utilisateur.messages.empty()) << utilisateur.ToutCeQuiAEteDit();
+    const auto& skin = cadre->Cadre().Skin();
+    EXPECT_TRUE(d->windowFlags() & Qt::FramelessWindowHint);
+    EXPECT_EQ(d->contentsMargins().top(), skin.hauteurTitre);
+    EXPECT_GE(d->minimumWidth(), cadre->Cadre().LargeurMin());
+    EXPECT_GE(d->minimumHeight(), cadre->Cadre().HauteurMin());
+    // The content stands under the title.
+    EXPECT_GE(bouton->geometry().top(), skin.hauteurTitre);
+    EXPECT_TRUE(qobject_cast<StyleBoutonSkin*>(bouton->style()));
+    // A skinned button of the window takes the skin's data.
+    auto* com = new comSkin(d.get());
+    d->layout()->addWidget(com);
+    com->show();
+    EXPECT_TRUE(com->Etat().SourceHaut());
+    // A button added later is dressed when it is polished.
+    auto* second = new QPushButton("Annuler", d.get());
+    d->layout()->addWidget(second);
+    second->show();
+    EXPECT_TRUE(qobject_cast<StyleBoutonSkin*>(second->style()));
+}
+
+TEST_F(Habillage, FenetresQuiGardentLeurCadre) {
+    auto barre = Dialogue();
+    barre->setProperty("verdaneSansSkin", true);
+    barre->show();
+    EXPECT_FALSE(CadreFenetre::De(barre.get()));
+    EXPECT_FALSE(barre->windowFlags() & Qt::FramelessWindowHint);
+    EXPECT_FALSE(qobject_cast<StyleBoutonSkin*>(bouton->style()));
+    QMenu menu;
+    menu.addAction("x");
+    menu.popup(QPoint(0, 0));
+    EXPECT_FALSE(CadreFenetre::De(&menu));
+    menu.close();
+}
+
+TEST_F(Habillage, BoutonsDuTitre) {
+    auto d = Dialogue();
+    d->resize(400, 200);
+    d->show();
+    auto* cadre = CadreFenetre::De(d.get());
+    ASSERT_TRUE(cadre);
+    const QPoint fermer = Centre(*cadre, d.get(), skin::kBoutonFermer);
+    const QImage avant = d->grab().toImage();
+    Souris(d.get(), QEvent::MouseButtonPress, fermer, Qt::LeftButton);
+    EXPECT_TRUE(cadre->Cadre().Enfonce(skin::kBoutonFermer));
+    // The pressed picture is drawn.
+    const QImage enfonce = d->grab().toImage();
+    const qreal r = enfonce.devicePixelRatio();
+    EXPECT_NE(enfonce.pixel((fermer + QPoint(-10, 0)) * r),
+              avant.pixel((fermer + QPoint(-10, 0)) * r));
+    Souris(d.get(), QEvent::MouseButtonRelease, fermer, Qt::NoButton);
+    EXPECT_FALSE(d->isVisible());
+
+    // Shown again, it isn't ended any more; the enlarge button enlarges, then restores.
+    d->show();
+    const QPoint agrandir = Centre(*cadre, d.get(), skin::kBoutonAgrandir);
+    Souris(d.get(), QEvent::MouseButtonPress, agrandir, Qt::LeftButton);
+    Souris(d.get(), QEvent::MouseButtonRelease, agrandir, Qt::NoButton);
+    EXPECT_TRUE(d->isVisible());
+    EXPECT_TRUE(d->windowState() & Qt::WindowMaximized);
+    const QPoint restaurer = Centre(*cadre, d.get(), skin::kBoutonAgrandir);
+    Souris(d.get(), QEvent::MouseButtonPress, restaurer, Qt::LeftButton);
+    Souris(d.get(), QEvent::MouseButtonRelease, restaurer, Qt::NoButton);
+    EXPECT_FALSE(d->windowState() & Qt::WindowMaximized);
+}
+
+TEST_F(Habillage, MenuSysteme) {
+    auto d = Dialogue();
+    d->show();
+    auto* cadre = CadreFenetre::De(d.get());
+    ASSERT_TRUE(cadre);
+    QStringList libelles;
+    for (auto* a : cadre->MenuSysteme()->actions())
+        libelles << (a->isSeparator() ? QString("-") : a->text());
+    EXPECT_EQ(libelles, (QStringList{"Restaurer", QString::fromStdString(Cp1252VersUtf8("Réduire")),
+                                     "Agrandir", "-", "Fermer"}));
+    for (auto* a : cadre->MenuSysteme()->actions()) {
+        if (!a->isSeparator()) {
+            EXPECT_FALSE(a->icon().isNull()) << a->text().toStdString();
+        }
+    }
+    // "Restaurer" does nothing to a normal window.
+    cadre->MenuSysteme()->actions()[0]->trigger();
+    EXPECT_EQ(d->windowState(), Qt::WindowNoState);
+    cadre->MenuSysteme()->actions()[2]->trigger();
+    EXPECT_TRUE(d->windowState() & Qt::WindowMaximized);
+    cadre->MenuSysteme()->actions()[0]->trigger();
+    EXPECT_FALSE(d->windowState() & Qt::WindowMaximized);
+    cadre->MenuSysteme()->actions()[4]->trigger();
+    EXPECT_FALSE(d->isVisible());
+}
+
+TEST_F(Habillage, LeTitreDeplaceLaFenetre) {
+    auto d = Dialogue();
+    d->resize(400, 200);
+    d->show();
+    d->move(100, 100);
+    const QPoint depart = d->pos();
+    Souris(d.get(), QEvent::MouseButtonPress, QPoint(200, 10), Qt::LeftButton);
+    EXPECT_EQ(d->cursor().shape(), Qt::BitmapCursor); // the skin's deplace.ico
+    Souris(d.get(), QEvent::MouseMove, QPoint(230, 30), Qt::LeftButton);
+    EXPECT_EQ(d->pos(), depart + QPoint(30, 20));
+    Souris(d.get(), QEvent::MouseButtonRelease, QPoint(230, 30), Qt::NoButton);
+    EXPECT_NE(d->cursor().shape(), Qt::BitmapCursor);
+    // A press in the content moves nothing.
+    Souris(d.get(), QEvent::MouseButtonPress, QPoint(200, 150), Qt::LeftButton);
+    Souris(d.get(), QEvent::MouseMove, QPoint(220, 170), Qt::LeftButton);
+    Souris(d.get(), QEvent::MouseButtonRelease, QPoint(220, 170), Qt::NoButton);
+    EXPECT_EQ(d->pos(), depart + QPoint(30, 20));
+}
+
+TEST_F(Habillage, UnAutreBitmapChangeLAspect) {
+    auto d = Dialogue();
+    d->resize(300, 150);
+    d->show();
+    const QImage avant = d->grab().toImage();
+    // The title band taken from another picture: same description, another bitmap.
+    QImage image(QString::fromStdString((dossier.Systeme() / "skin.bmp").string()));
+    ASSERT_FALSE(image.isNull());
+    for (int y = 0; y < 30; ++y)
+        for (int x = 0; x < 16; ++x) image.setPixelColor(x, y, QColor(200, 30, 30));
+    ASSERT_TRUE(image.save(QString::fromStdString((dossier.Systeme() / "skin.bmp").string())));
+    std::filesystem::remove(dossier.Systeme() / "skin@2x.bmp");
+    Installer();
+    auto autre = Dialogue();
+    autre->resize(300, 150);
+    autre->show();
+    const QImage apres = autre->grab().toImage();
+    const qreal r = apres.devicePixelRatio();
+    const QPoint titre = QPoint(150, 4) * r;
+    EXPECT_EQ(QColor(apres.pixel(titre)), QColor(200, 30, 30));
+    EXPECT_NE(QColor(avant.pixel(titre)), QColor(200, 30, 30));
+    // The body keeps the description's colour.
+    EXPECT_EQ(apres.pixel(QPoint(150, 140) * r), avant.pixel(QPoint(150, 140) * r));
+}
+
+TEST_F(Habillage, SansSkinIniRienNEstHabille) {
+    std::filesystem::remove(dossier.Systeme() / "Skin.ini");
+    Installer();
+    auto d = Dialogue();
+    d->show();
+    EXPECT_FALSE(CadreFenetre::De(d.get()));
+    EXPECT_TRUE(utilisateur.ADit("Fichier de configuration du skin introuvable !"));
+    // Asked once: a second window says nothing more.
+    auto e = Dialogue();
+    e->show();
+    EXPECT_EQ(utilisateur.messages.size(), 1u);
+}
+
+TEST_F(Habillage, UnSkinFautifSeDessineSansFaute) {
+    dossier.Ecrire("Skin.ini", "fichier = skin.bmp\n"
+                               "heighttitre = 20\n"
+                               "pos = 0,0,me.width*32767,me.height*32767, 0,0,8,8\n"
+                               "pos = -500,-500,me.width+900,10, 0,0,16,30\n"
+                               "pos = 0,0,me.width/0,10, 0,0,8,8\n"
+                               "pos = 0,0,10,10, 5000,5000,8,8\n"
+                               "posbend = me.width-20,0,20,20, 190,120,50,50\n"
+                               "lbltitre.pos = 0,0,me.width*-3,20\n"
+                               "button.mup = -100,-100,99999,5\n");
+    Installer();
+    auto d = Dialogue();
+    d->resize(300, 150);
+    d->show();
+    ASSERT_TRUE(CadreFenetre::De(d.get()));
+    EXPECT_FALSE(d->grab().isNull());
+    EXPECT_TRUE(utilisateur.ADit("division par zéro"));
+    EXPECT_TRUE(utilisateur.ADit("source hors de l'image"));
+    EXPECT_TRUE(utilisateur.ADit("source en partie hors de l'image"));
+    // The bitmap missing: said, and the frame drawn in the window's colour.
+    dossier.Ecrire("Skin.ini", "fichier = absente.bmp\nheighttitre = 20\n");
+    Installer();
+    auto e = Dialogue();
+    e->show();
+    ASSERT_TRUE(CadreFenetre::De(e.get()));
+    EXPECT_TRUE(utilisateur.ADit("Le Fichier Image du Skin est introuvable !"));
+    EXPECT_FALSE(e->grab().isNull());
+}
+
+TEST_F(Habillage, BoutonSkinUnClicParLibelle) {
+    auto d = Dialogue();
+    d->show();
+    comSkin b(d.get());
+    b.setText("Valider");
+    b.Make_Skin(habillage->Skin());
+    b.resize(120, 30);
+    b.show();
+    QSignalSpy clics(&b, &QAbstractButton::clicked);
+    const QImage haut = b.grab().toImage();
+    QTest::mousePress(&b, Qt::LeftButton, {}, QPoint(60, 15)); // on the label
+    EXPECT_TRUE(b.Etat().Enfonce());
+    const QImage bas = b.grab().toImage();
+    EXPECT_NE(haut.pixel(QPoint(8, 15) * haut.devicePixelRatio()),
+              bas.pixel(QPoint(8, 15) * bas.devicePixelRatio()));
+    QTest::mouseRelease(&b, Qt::LeftButton, {}, QPoint(60, 15));
+    EXPECT_EQ(clics.count(), 1);
+    EXPECT_FALSE(b.Etat().Enfonce());
+    // Pressed, then released outside: no click.
+    QTest::mousePress(&b, Qt::LeftButton, {}, QPoint(60, 15));
+    QTest::mouseRelease(&b, Qt::LeftButton, {}, QPoint(500, 15));
+    EXPECT_EQ(clics.count(), 1);
+    EXPECT_EQ(b.Etat().Props().Text, "Valider");
+    EXPECT_LE(b.maximumWidth(), 400);
+}
+
+} // namespace
+} // namespace verdane::qt
