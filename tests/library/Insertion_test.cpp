@@ -197,6 +197,22 @@ TEST_F(Insertion, CodeSelectionneExplique) {
     EXPECT_EQ(m.ctx.etat.insertion.codeSelectionne, "#mrl(nomDossier)#");
 }
 
+TEST_F(Insertion, UnGraphiqueSelectionneNeDitPasSesOctets) {
+    struct ExtensionsImage : FaussesExtensions {
+        Texte Graphique(Contexte&, const Texte&) override {
+            return "{\\pict\\pngblip " + Texte(4000, 'f') + "}";
+        }
+    } extensions;
+    m.ctx.extensions = &extensions;
+    pilote.selection = "#mrl(gph(Lait_vendu;2;1))#";
+    const auto e = ExpliquerSelection(m.ctx);
+    ASSERT_TRUE(e);
+    EXPECT_EQ(e->valeur, "une image");
+    EXPECT_NE(m.utilisateur.messages.back().texte.find("le graphique \"Lait vendu\"."),
+              Texte::npos);
+    EXPECT_LT(m.utilisateur.messages.back().texte.size(), 400u);
+}
+
 TEST_F(Insertion, ModeleRecupereDansSonEditeur) {
     // Not a table, nor a graph.
     m.ctx.etat.insertion.codeSelectionne = "#mrl(nomDossier)#";

@@ -3,8 +3,11 @@
 // also saved there as a picture.
 
 #include "data/ChargerDossier.h"
+#include "graphs/qt/SurfaceQt.h"
 #include "library/GestInserVal.h"
+#include "library/LectureSelection.h"
 #include "library/PiloteTexte.h"
+#include "library/qt/ApercuGraph.h"
 #include "library/qt/FenetresInsertionFormes.h"
 #include "library/qt/FrmDate.h"
 #include "library/qt/FrmInfoBulle.h"
@@ -186,6 +189,28 @@ TEST_F(Fenetres, EntreesDuRegistre) {
     EXPECT_TRUE(u.ADit("n'est pas celui d'un graphique"));
 }
 
+constexpr const char* kCodeGraph =
+    "#mrl(gph(Lait_vendu;2;1;1;0;Livraisons;0;0;50;50;0;0;0;0;0;0;0;0;0;0;0;0;0;0;0;0;0;0;1;1;1;"
+    "1;Ann\\'e9es;10;30;Litres;10;30;;10;30;;10;30;16;[VLVB-2:0;Lait_vendu;1;VLVB.don;0;60;150;"
+    "80;1;1]))#";
+
+TEST_F(Fenetres, ApercuDuGraphiqueSelectionne) {
+    qt::FabriqueSurfaceQt fabrique;
+    ctx.etat.graphes.fabriqueSurface = &fabrique;
+    ctx.etat.chemins.RepModelGraph = d.Chemin();
+    ctx.etat.nbAnEtude = 3;
+    ctx.etat.NomDossier[0] = "DUPONT";
+    ctx.etat.insertion.codeSelectionne = kCodeGraph;
+    const Texte chemin = ApercuGraphSelection(ctx);
+    ASSERT_EQ(chemin, d / "graphSvg.bmp") << u.ToutCeQuiAEteDit();
+    qt::ApercuGraph apercu(ctx.etat, chemin);
+    EXPECT_TRUE(apercu.ImageLue());
+    EXPECT_TRUE(apercu.windowTitle().endsWith("Dossier : DUPONT"));
+    // The graph editor isn't there: said so.
+    EXPECT_FALSE(RecupererModeleGraph(ctx));
+    EXPECT_TRUE(u.ADit("n'est pas disponible"));
+}
+
 // Pictures of the dialogs over the sample installation, for the eye.
 TEST(Captures, DialoguesSurLeDossierExemple) {
     const char* dossier = std::getenv("VERDANE_CAPTURES");
@@ -218,6 +243,11 @@ TEST(Captures, DialoguesSurLeDossierExemple) {
     FrmInfoBulle bulle(ctx);
     bulle.txtTitre->setText(QStringLiteral("Lait vendu"));
     capturer(bulle, "FrmInfoBulle");
+    qt::FabriqueSurfaceQt fabrique;
+    ctx.etat.graphes.fabriqueSurface = &fabrique;
+    ctx.etat.insertion.codeSelectionne = kCodeGraph;
+    qt::ApercuGraph apercu(ctx.etat, ApercuGraphSelection(ctx));
+    capturer(apercu, "ApercuGraph");
 }
 
 } // namespace
