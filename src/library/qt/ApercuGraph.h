@@ -8,7 +8,6 @@
 namespace verdane::qt {
 
 class ApercuGraph : public QDialog {
-    Q_OBJECT
 public:
     // Shows the picture of the work file `chemin` under the preview's title.
     ApercuGraph(const Etat& etat, const Texte& chemin, QWidget* parent = nullptr);

@@ -13,7 +13,6 @@ class QPushButton;
 namespace verdane::qt {
 
 class FrmDate : public QDialog {
-    Q_OBJECT
 public:
     explicit FrmDate(Contexte& ctx, QWidget* parent = nullptr);
 

@@ -15,7 +15,6 @@ class QSpinBox;
 namespace verdane::qt {
 
 class FrmInfoBulle : public QDialog {
-    Q_OBJECT
 public:
     explicit FrmInfoBulle(Contexte& ctx, QWidget* parent = nullptr);
 

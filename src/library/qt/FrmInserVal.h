@@ -22,7 +22,6 @@ class QTreeWidgetItem;
 namespace verdane::qt {
 
 class FrmInserVal : public QDialog {
-    Q_OBJECT
 public:
     // `tag`: the tree shown first ("CLASSIC", "CULTURE", "CULTPER", "ALIBANI").
     FrmInserVal(Contexte& ctx, const Texte& tag, QWidget* parent = nullptr);
