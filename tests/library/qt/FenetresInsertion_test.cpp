@@ -145,7 +145,7 @@ TEST_F(Fenetres, ArbreVideQuiLeDit) {
     ctx.etat.chemins.RepDatacfg = d / "rien/";
     FrmInserVal f(ctx, "CLASSIC");
     EXPECT_TRUE(f.lblArbreVide->isVisibleTo(&f));
-    EXPECT_TRUE(f.lblArbreVide->text().contains("Aucune série"));
+    EXPECT_TRUE(f.lblArbreVide->text().contains(QStringLiteral("Aucune série")));
     f.comInserData->click();
     EXPECT_TRUE(pilote.inseres.empty());
 }

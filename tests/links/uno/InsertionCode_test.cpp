@@ -27,7 +27,7 @@ protected:
         ctx.etat.options.sautParagraphe = 0;
         ctx.etat.options.CheminEditeur = "/usr/bin/soffice";
         ctx.etat.enrDossier.nom = "TILLEULS";
-        liens = std::make_unique<LiensSysteme>(ctx, OptionsOffice{"", "", true, 60000});
+        liens = std::make_unique<LiensSysteme>(ctx, OptionsOffice{"", "", true, 180000});
     }
     Texte ToutLeTexte() {
         liens->Bureau().SelectionnerTout();
@@ -39,7 +39,8 @@ protected:
 };
 
 TEST_F(InsertionDansWriter, CodeInsereAuCurseurPuisRelu) {
-    ASSERT_TRUE(liens->Office().NouveauDocument());
+    ASSERT_TRUE(liens->Office().NouveauDocument())
+        << (u.messages.empty() ? "" : u.messages[0].technique);
     ChoixDonnee choix;
     choix.cle = "VLVB.DON+VLVB-12:0";
     choix.indexValeur = 4 + 3;
