@@ -47,9 +47,7 @@ TEST_F(InsertionDansWriter, CodeInsereAuCurseurPuisRelu) {
     choix.decimales = 2;
     ctx.etat.insertion.codeEnAttente = ComposeurCode::CodeDonnee(choix);
     ASSERT_TRUE(InsererCode(ctx));
-    EXPECT_EQ(ToutLeTexte(), "#mrl(VLVB.DON+VLVB-3a12:2)#");
-
-    // Behind it, a tooltip whose blanks travel as "_"; the cursor is at the end of the text.
+    // Behind it, a tooltip whose blanks travel as "_": the cursor stands behind the first.
     ASSERT_TRUE(InsererInfoBulle(ctx, {"Titre long", "Le texte", "mot", "", 10}));
     EXPECT_EQ(ToutLeTexte(),
               "#mrl(VLVB.DON+VLVB-3a12:2)##mrl(INFO:MRL:10:Titre_long:Le_texte:mot)#");
