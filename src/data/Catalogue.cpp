@@ -50,30 +50,28 @@ std::string EcrireEnrCatalogue(const EnrCatalogue& enr) {
     return EcrireSelon(enr, kDisposition);
 }
 
-void ChargerCatalogue(std::string_view fichier, ArbreCatalogue& arbre) {
-    const auto contenu = LireFichier(fichier);
-    if (!contenu) return;
-    const std::size_t nb = std::min<std::size_t>(contenu->size() / EnrCatalogue::kTaille, 32767);
-    if (nb == 0) return;
-    const std::string_view octets(*contenu);
+namespace {
+
+// Adds the catalogue `fichier` under the root with `libelle`, then its series in file order.
+// The head record has been looked at by the caller.
+void AjouterCatalogue(std::string_view fichier, std::string_view octets, ArbreCatalogue& arbre,
+                      const Texte& libelle) {
+    const std::size_t nb = std::min<std::size_t>(octets.size() / EnrCatalogue::kTaille, 32767);
     const auto enr = [&](std::size_t i) {
         return LireEnrCatalogue(octets.substr(i * EnrCatalogue::kTaille, EnrCatalogue::kTaille));
     };
-
     const Texte nom = NomFichier(fichier);
-    const EnrCatalogue tete = enr(0);
-    if (tete.queue == 0 || EgalSansCasse(nom, "RESSUP.CFG")) return;
     if (arbre.Trouver(nom)) return;
     const Texte famille = FamilleDonnee(nom);
-    arbre.racine.enfants.push_back({nom, Rogner(tete.libelle), famille, {}});
+    arbre.racine.enfants.push_back({nom, libelle, famille, {}});
     const std::size_t position = arbre.racine.enfants.size() - 1;
 
     const auto cfg = TrouverSansCasse(nom, ".CFG");
     const Texte fichierDon = nom.substr(0, cfg) + ".DON";
     for (std::size_t i = 1; i < nb; ++i) {
         const EnrCatalogue e = enr(i);
-        const Texte libelle = Rogner(e.libelle);
-        if (e.code.find('-') == Texte::npos || libelle == "[ sans nom ]") continue;
+        const Texte libelleSerie = Rogner(e.libelle);
+        if (e.code.find('-') == Texte::npos || libelleSerie == "[ sans nom ]") continue;
         const Texte cle = fichierDon + "+" + Rogner(e.code);
         if (arbre.Trouver(cle)) continue;
         // Folders may have been added to the tree: find the catalogue's node again.
@@ -86,8 +84,28 @@ void ChargerCatalogue(std::string_view fichier, ArbreCatalogue& arbre) {
             if (!dossier2.empty())
                 parent = &Dossier(arbre, *parent, cle1 + "\\" + dossier2, dossier2, famille);
         }
-        parent->enfants.push_back({cle, libelle, "puce", {}});
+        parent->enfants.push_back({cle, libelleSerie, "puce", {}});
     }
+}
+
+} // namespace
+
+void ChargerCatalogue(std::string_view fichier, ArbreCatalogue& arbre) {
+    const auto contenu = LireFichier(fichier);
+    if (!contenu || contenu->size() < EnrCatalogue::kTaille) return;
+    const EnrCatalogue tete =
+        LireEnrCatalogue(std::string_view(*contenu).substr(0, EnrCatalogue::kTaille));
+    if (tete.queue == 0 || EgalSansCasse(NomFichier(fichier), "RESSUP.CFG")) return;
+    AjouterCatalogue(fichier, *contenu, arbre, Rogner(tete.libelle));
+}
+
+void ChargerCatalogueSupplementaire(std::string_view fichier, ArbreCatalogue& arbre,
+                                    const Texte& libelleParDefaut) {
+    const auto contenu = LireFichier(fichier);
+    if (!contenu || contenu->size() < EnrCatalogue::kTaille) return;
+    const Texte libelle = Rogner(
+        LireEnrCatalogue(std::string_view(*contenu).substr(0, EnrCatalogue::kTaille)).libelle);
+    AjouterCatalogue(fichier, *contenu, arbre, libelle.empty() ? libelleParDefaut : libelle);
 }
 
 } // namespace verdane

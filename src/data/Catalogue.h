@@ -44,5 +44,9 @@ std::string EcrireEnrCatalogue(const EnrCatalogue& enr);
 // no record, a head whose tail is 0, and "RESSUP.CFG" add nothing; so does a catalogue that is
 // already in the tree.
 void ChargerCatalogue(std::string_view fichier, ArbreCatalogue& arbre);
+// Adds the catalogue of the extra results ("RESSUP.CFG"), which ChargerCatalogue leaves out:
+// whatever its head says, under the head's label or `libelleParDefaut` when that is blank.
+void ChargerCatalogueSupplementaire(std::string_view fichier, ArbreCatalogue& arbre,
+                                    const Texte& libelleParDefaut);
 
 } // namespace verdane

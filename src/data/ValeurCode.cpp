@@ -139,7 +139,8 @@ Texte ValeurCode(Contexte& ctx, Texte& code, int posTiret, std::int16_t& annee,
             fichier = "CltP" + TexteNumero(dom.numCulturePerenne) + ".don";
         else
             fichier = "AL" + DeuxChiffres(dom.numModuleAnimal) + "AL.don";
-        if (tiret != npos && Car(code, tiret + 1) != 'c')
+        // Nothing before the "-" names no record: the one after the word is read then.
+        if (tiret != npos && tiret > 0 && Car(code, tiret + 1) != 'c')
             enregistrement = ValEntier(code.substr(0, tiret));
     } else {
         // 2. "<file>+<tag>-...".

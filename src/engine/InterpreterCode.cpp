@@ -48,7 +48,9 @@ void Expliquer(Contexte& ctx, const Texte& code, const Issue& issue, Explication
     m.titre = "Interprétation d'un code Verdane";
     m.genre = "Aide";
     const Texte marque = "#mrl(" + code + ")#";
-    const Texte valeur = Rogner(ParLignes(issue.champ.valeur));
+    Texte valeur = Rogner(ParLignes(issue.champ.valeur));
+    // A picture (a chart, a logo) can't be told in words: the message names it instead.
+    if (CommencePar(valeur, "{\\pict")) valeur = "une image";
     switch (issue.explication) {
     case FormeExplication::Exemple:
         m.texte = marque + " est le code pour afficher " + issue.champ.phrase +

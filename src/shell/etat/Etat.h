@@ -6,6 +6,7 @@
 #include "data/FormatNombre.h"
 #include "domain/EtatDomaine.h"
 #include "graphs/EtatGraphes.h"
+#include "library/EtatInsertion.h"
 #include "tables/EtatTableaux.h"
 #include "utils/Texte.h"
 
@@ -113,6 +114,7 @@ struct Etat {
     EtatTableaux tableaux;
     EtatGraphes graphes;
     EtatDomaine domaine;
+    EtatInsertion insertion;
 };
 
 } // namespace verdane

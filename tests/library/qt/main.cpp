@@ -1,11 +1,11 @@
 // The tests of the library's windows run in one QApplication, off screen.
 
-#include <QApplication>
+#include "graphs/qt/ApplicationQt.h"
 
 #include <gtest/gtest.h>
 
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
-    QApplication application(argc, argv);
+    verdane::qt::ApplicationQt application(argc, argv);
     return RUN_ALL_TESTS();
 }
