@@ -1,6 +1,7 @@
 #include "graphs/qt/FenetresGraphes.h"
 
 #include "graphs/EditeurGraph.h"
+#include "graphs/FichierGraph.h"
 #include "graphs/qt/FrmGraphik.h"
 #include "utils/Chaines.h"
 
@@ -27,7 +28,19 @@ int OuvrirFrmGraphik(Contexte& ctx, const std::vector<Texte>& arguments) {
         titre = TitreTravailGraph(ctx.etat);
     } else if (!arguments.empty()) {
         titre = arguments[0];
-        if (arguments.size() > 1) graphe = static_cast<int>(EntierStrict(arguments[1]).value_or(0));
+        if (arguments.size() > 1) {
+            if (const auto n = EntierStrict(arguments[1])) {
+                graphe = static_cast<int>(*n);
+            } else {
+                // A graph code taken from a document enters the library, its title starting
+                // with "Récupéré: ", and the editor opens on it.
+                Texte code = Rogner(arguments[1]);
+                if (CommencePar(code, "gph(") && FinitPar(code, ")"))
+                    code = code.substr(4, code.size() - 5);
+                graphe = AjouterCodeAuFichier(ctx, kPrefixeRecupere + code);
+                titre = "Insertion de graphique";
+            }
+        }
     }
     FrmGraphik forme(ctx, titre, graphe);
     forme.setWindowFlag(Qt::WindowStaysOnTopHint);

@@ -22,6 +22,8 @@ FrmAide::FrmAide(bool marlo, QWidget* parent)
       lblTitre_(new QLabel(this)), lblMessage_(new QLabel(this)), lblTechnique_(new QLabel(this)),
       entreesAide_(new QWidget(this)), cmdFermer_(new QPushButton(QStringLiteral("Fermer"), this)) {
     setObjectName(QStringLiteral("FrmAide"));
+    // Part of the bar: it keeps its own look, not the skin's window frame.
+    setProperty("verdaneSansSkin", true);
     setModal(true);
     lblTitre_->setObjectName(QStringLiteral("lblTitre"));
     lblMessage_->setObjectName(QStringLiteral("lblMessage"));

@@ -86,6 +86,8 @@ protected:
 FrmBarre::FrmBarre(Contexte& ctx, QWidget* parent)
     : QWidget(parent, Qt::Window | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint), ctx_(ctx) {
     setObjectName(QStringLiteral("frmBarre"));
+    // Part of the bar: it keeps its own look, not the skin's window frame.
+    setProperty("verdaneSansSkin", true);
     setWindowTitle(QStringLiteral("Verdane"));
     setMouseTracking(true);
     setAutoFillBackground(true);

@@ -86,6 +86,8 @@ FrmMenu::FrmMenu(Contexte& ctx, GestionBarre& gestion, Menu menu, QWidget* paren
                           Qt::WindowDoesNotAcceptFocus),
       ctx_(ctx), gestion_(gestion), menu_(menu) {
     setObjectName(QString::fromLatin1(Definition(menu).forme));
+    // Part of the bar: it keeps its own look, not the skin's window frame.
+    setProperty("verdaneSansSkin", true);
     setMouseTracking(true);
     setAutoFillBackground(true);
     setStyleSheet(QStringLiteral("QWidget#%1 { background: #f4f7ee; border: 1px solid #5a7a3a; }")
