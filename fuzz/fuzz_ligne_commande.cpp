@@ -31,7 +31,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* donnees, std::size_t t
     }
     const auto lecture = LireOptionsLot(arguments);
     if (!lecture.options && lecture.erreur.empty()) std::abort();
-    // Separate arguments joined into one line and split again give themselves back.
+    // Separate arguments joined into one line, as the program does at its start, and counted.
     for (const Texte& a : arguments) argv.push_back(a.c_str());
     const auto rejointe =
         LigneCommande::DepuisArguments(static_cast<int>(argv.size()), argv.data());

@@ -64,7 +64,7 @@ TEST_F(CreationSure, UnResultatQuiEstUnRepertoireEstVuAvantDeCreer) {
     std::filesystem::create_directories(d.Systeme() / "r.rtf");
     EXPECT_EQ(Creer("a #mrl(x)# b", d / "r.rtf"), IssueCreation::ResultatImpossible);
     EXPECT_EQ(analyseur.codes, 0);
-    EXPECT_TRUE(u.ADit("Un répertoire porte ce nom."));
+    EXPECT_NE(u.ToutCeQuiAEteDit().find("Un répertoire porte ce nom."), std::string::npos);
     EXPECT_TRUE(std::filesystem::is_directory(d.Systeme() / "r.rtf"));
 }
 
@@ -79,7 +79,7 @@ TEST_F(CreationSure, SansPermissionDeRemplacerUnResultatApparuEntreTempsReste) {
     analyseur.pendant = [&] { d.Ecrire("r.rtf", "d'un autre run"); };
     EXPECT_EQ(Creer("a #mrl(x)# b", d / "r.rtf", true), IssueCreation::ResultatImpossible);
     EXPECT_EQ(d.Lire("r.rtf"), "d'un autre run");
-    EXPECT_TRUE(u.ADit("Un autre document a pris ce nom"));
+    EXPECT_NE(u.ToutCeQuiAEteDit().find("Un autre document a pris ce nom"), std::string::npos);
     EXPECT_TRUE(u.questions.empty()); // nothing stood there when the creation began
 
     // Leave given (no question asked): the result is replaced.

@@ -89,7 +89,9 @@ TEST(RtfVersTexte, CommeLesEchappementsPrisUnAUnDepuisLeDebut) {
     auto unAUn = [](Texte t) {
         for (auto n = t.find("\\'"); n != Texte::npos; n = t.find("\\'")) {
             const Texte code = Minuscules(t.substr(n + 2, 2));
-            const Texte lettre = code == "e9" ? "é" : code == "e0" ? "à" : "";
+            const Texte codes = "e0e2e7e8e9eaeef4f9fb", lettres = "àâçèéêîôùû";
+            const auto k = code.size() == 2 ? codes.find(code) : Texte::npos;
+            const Texte lettre = k != Texte::npos && k % 2 == 0 ? lettres.substr(k / 2, 1) : "";
             t = t.substr(0, n) + lettre + t.substr(std::min(t.size(), n + 4));
         }
         return t;

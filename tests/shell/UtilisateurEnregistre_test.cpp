@@ -32,7 +32,7 @@ TEST(UtilisateurEnregistre, LesPremiersEnEntierLesSuivantsComptesParGenre) {
     EXPECT_EQ(e.Omis()[1].genre, "boite");
     EXPECT_EQ(e.Omis()[2].genre, "question");
     // Everything reached the user.
-    EXPECT_EQ(u.messages.size(), 9u);
+    EXPECT_EQ(u.messages.size(), 8u);
     EXPECT_EQ(u.questions.size(), 2u);
 }
 
