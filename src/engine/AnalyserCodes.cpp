@@ -4,6 +4,8 @@
 #include "engine/PrefixesCode.h"
 #include "utils/Chaines.h"
 
+#include <algorithm>
+
 namespace verdane {
 
 namespace {
@@ -16,6 +18,27 @@ long Chercher(const Texte& texte, std::string_view cherche, long depart) {
     return n == Texte::npos ? 0 : static_cast<long>(n) + 1;
 }
 
+// The searches of one close mark in a text that doesn't change between them: a search from a
+// later start than the last gives the same answer unless it starts beyond it, so marks opened
+// many times before one close cost one look at the text, not one each.
+class Fermeture {
+public:
+    explicit Fermeture(std::string_view marque) : marque_(marque) {}
+    long Depuis(const Texte& texte, long depart) {
+        if (!(depart >= depuis_ && depuis_ > 0 && (trouve_ == 0 || trouve_ >= depart))) {
+            depuis_ = depart;
+            trouve_ = Chercher(texte, marque_, depart);
+        }
+        return trouve_;
+    }
+    void Oublier() { depuis_ = 0; } // the text changed
+
+private:
+    std::string_view marque_;
+    long depuis_ = 0;
+    long trouve_ = 0;
+};
+
 } // namespace
 
 bool AnalyserCodes(Contexte& ctx, Texte& texte, bool expliquer, bool miseAJour) {
@@ -27,15 +50,17 @@ bool AnalyserCodes(Contexte& ctx, Texte& texte, bool expliquer, bool /*miseAJour
     const auto premier = TrouverSansCasse(texte, "#mrl(");
     long debut = premier == Texte::npos ? 0 : static_cast<long>(premier) + 1;
     bool resultat = true;
+    Fermeture fermeture(")#");
     while (debut != 0) {
         long suite = debut + 5;
         const long autre = Chercher(texte, "#mrl(", suite);
-        const long fin = Chercher(texte, ")#", suite);
+        const long fin = fermeture.Depuis(texte, suite);
         if (autre != 0 && fin > autre) {
             // An open mark with no close of its own: the nested one wins.
         } else if (fin != 0 && debut < fin) {
             resultat =
                 InterpreterCode(ctx, texte, debut, suite, fin, expliquer, false, explication);
+            fermeture.Oublier();
         } else if (fin == 0) {
             ctx.utilisateur.AfficherMessage(
                 {"Verdane ne trouve pas une balise \")#\" dans le modèle de document utilisé "
@@ -57,17 +82,39 @@ bool AnalyserCodes(Contexte& ctx, Texte& texte, bool expliquer, bool /*miseAJour
 }
 
 void AnalyserCodesImbriques(Contexte& ctx, Texte& texte) {
-    long depart = 1;
-    while (true) {
-        const long debut = Chercher(texte, "%mrl(", depart);
-        if (debut == 0) return;
-        const long fin = Chercher(texte, ")%", debut + 5);
-        if (fin == 0) return;
-        long suite = debut + 5;
-        InterpreterCode(ctx, texte, debut, suite, fin, false, true);
-        // A code left as text is passed over; the search goes on behind it.
-        depart = suite;
+    // The cell is built anew as it is read: each mark is interpreted on its own, its value
+    // appended, and the search goes on in the text read, which is never cut nor rebuilt.
+    const std::string_view lu = texte;
+    Texte cellule;
+    std::size_t depart = 0;
+    Fermeture fermeture(")%");
+    for (;;) {
+        const auto debut = lu.find("%mrl(", depart);
+        if (debut == std::string_view::npos) break;
+        const long ferme = fermeture.Depuis(texte, static_cast<long>(debut) + 6);
+        const auto fin = ferme == 0 ? std::string_view::npos : static_cast<std::size_t>(ferme - 1);
+        if (fin == std::string_view::npos) break;
+        if (lu.find("%mrl(", debut + 5) < fin) {
+            // Opened again before its close: as in a document, the inner mark wins and this
+            // open stays as text.
+            cellule.append(lu.substr(depart, debut + 5 - depart));
+            depart = debut + 5;
+            continue;
+        }
+        cellule.append(lu.substr(depart, debut - depart));
+        Texte marque(lu.substr(debut, fin + 2 - debut));
+        const auto longueur = static_cast<long>(marque.size());
+        long suite = 6;
+        InterpreterCode(ctx, marque, 1, suite, longueur - 1, false, true);
+        // What the interpreter left behind `suite` is the end of the mark as it stood: a code
+        // left as text is passed over from just behind its "%mrl(".
+        const auto garde =
+            static_cast<std::size_t>(std::clamp(suite - 1, 0L, static_cast<long>(marque.size())));
+        cellule.append(marque, 0, garde);
+        depart = fin + 2 - (marque.size() - garde);
     }
+    cellule.append(lu.substr(depart));
+    texte = std::move(cellule);
 }
 
 Explication ExpliquerCode(Contexte& ctx, const Texte& code) {

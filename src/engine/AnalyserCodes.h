@@ -15,7 +15,8 @@ bool AnalyserCodes(Contexte& ctx, Texte& texte, bool expliquer, bool miseAJour,
                    Explication* explication);
 
 // Expands every "%mrl(...)%" of a table cell's text in place, without annotation. A "%mrl("
-// without its ")%" stays as text and ends the work.
+// without its ")%" stays as text and ends the work; one opened again before its ")%" stays
+// as text, the inner one being expanded.
 void AnalyserCodesImbriques(Contexte& ctx, Texte& texte);
 
 // The meaning of one code for the user (the message form of kind "Aide"), and its value for

@@ -25,7 +25,7 @@ constexpr std::string_view kFinValeur = "{\\v #findata=#mrl(";
 // The output of a run: written beside the result and put in place once complete.
 class Sortie {
 public:
-    explicit Sortie(std::string_view chemin) : fichier_(chemin) {}
+    Sortie(std::string_view chemin, bool remplacer) : fichier_(chemin, remplacer) {}
     bool Ouverte() const { return fichier_.Ouvert(); }
     void Ecrire(std::string_view t) { fichier_.Ecrire(t); }
     void EcrireLigne(std::string_view t) {
@@ -33,6 +33,7 @@ public:
         fichier_.Ecrire(kFinDeLigne);
     }
     bool Valider() { return fichier_.Valider(); }
+    bool NomPris() const { return fichier_.NomPris(); }
 
 private:
     FichierSur fichier_;
@@ -55,6 +56,9 @@ struct Morceau {
     bool sansPolices = false;
     bool sansCouleurs = false;
     std::array<bool, 3> sansSignet{};
+    // Paragraph ends eaten so far: none lies before `parDes`, and none at all once `sansPar`.
+    std::size_t parDes = 0;
+    bool sansPar = false;
 
     std::string_view Reste() const { return std::string_view(p).substr(o); }
 };
@@ -62,9 +66,20 @@ struct Morceau {
 // Step of a hidden paragraph: the first "\par" becomes the meaningless word "\p", so the
 // paragraph end hidden by a false condition goes away. The character behind it stays: it is
 // the word's delimiter, and taking it would glue "\p" to the next word and lose that word.
+// The two letters go by moving what stands between the offset and them two places on: the
+// cost is that of the hidden paragraph, not of the rest of the piece.
 void MangerParagraphe(Morceau& m) {
-    const auto n = m.p.find("\\par", m.o);
-    if (n != Texte::npos) m.p.erase(n + 2, 2);
+    if (m.sansPar) return;
+    const auto n = m.p.find("\\par", std::max(m.o, m.parDes));
+    if (n == Texte::npos) {
+        m.sansPar = true;
+        return;
+    }
+    const auto debut = m.p.begin() + static_cast<std::ptrdiff_t>(m.o);
+    const auto lettres = m.p.begin() + static_cast<std::ptrdiff_t>(n + 2);
+    std::move_backward(debut, lettres, lettres + 2);
+    m.o += 2;
+    m.parDes = n + 2; // the "\p" left, which may start a new "\par" ("\parar")
 }
 
 // The document information group: codes in it aren't interpreted. Returns false when the
@@ -271,11 +286,14 @@ IssueCreation CreerDocument(Contexte& ctx, const Texte& modeleDemande, const Tex
 
     Texte modele = Rogner(modeleDemande);
     if (modele.empty()) return IssueCreation::Abandonnee;
+    // Without leave to replace, the result is put in place only if its name is still free.
+    bool remplacer = miseAJour || !demanderRemplacement;
     if (!miseAJour && demanderRemplacement && FichierExiste(resultat)) {
         const auto r = ctx.utilisateur.Question(
             "Le document demandé existe déjà !\r\nVoulez-vous le remplacer ?", "Verdane",
             Boutons::OuiNon, Reponse::Non, Icone::Attention);
         if (r != Reponse::Oui) return IssueCreation::Abandonnee;
+        remplacer = true;
     }
     ctx.utilisateur.Sablier(true);
     if (miseAJour) {
@@ -299,12 +317,15 @@ IssueCreation CreerDocument(Contexte& ctx, const Texte& modeleDemande, const Tex
     e.NbCodes = lu.NbCodes;
 
     const Texte cible = miseAJour ? modele : resultat;
-    Sortie sortie(cible);
+    Sortie sortie(cible, remplacer);
     if (!sortie.Ouverte()) {
         ctx.utilisateur.Sablier(false);
         ctx.utilisateur.AfficherMessage(
             {"Le document résultat ne peut pas être écrit :", cible,
-             "Vérifiez que le répertoire existe et que vous pouvez y écrire.", ""});
+             DossierExiste(cible)
+                 ? "Un répertoire porte ce nom."
+                 : "Vérifiez que le répertoire existe et que vous pouvez y écrire.",
+             ""});
         return IssueCreation::ResultatImpossible;
     }
     if (e.NbCodes > 0) ctx.utilisateur.OuvrirJauge(miseAJour ? NomJauge(NomFichier(resultat)) : "");
@@ -322,8 +343,11 @@ IssueCreation CreerDocument(Contexte& ctx, const Texte& modeleDemande, const Tex
     if (!sortie.Valider()) {
         if (e.NbCodes > 0) ctx.utilisateur.FermerJauge();
         ctx.utilisateur.Sablier(false);
-        ctx.utilisateur.AfficherMessage({"Le document résultat ne peut pas être écrit :", cible,
-                                         "L'écriture du document a échoué.", ""});
+        ctx.utilisateur.AfficherMessage(
+            {"Le document résultat ne peut pas être écrit :", cible,
+             sortie.NomPris() ? "Un autre document a pris ce nom pendant la création."
+                              : "L'écriture du document a échoué.",
+             ""});
         return IssueCreation::ResultatImpossible;
     }
     FinirJauge(ctx, miseAJour);

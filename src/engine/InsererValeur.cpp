@@ -107,12 +107,32 @@ long InsererValeur(Contexte& ctx, Texte& texte, long debutMarque, long fin, cons
 }
 
 void RtfVersTexte(Texte& texte) {
-    for (auto n = texte.find("\\'"); n != Texte::npos; n = texte.find("\\'")) {
-        const std::string_view reste = std::string_view(texte).substr(n + 2, 2);
-        const char lettre = LettreAccentuee(reste);
-        texte.erase(n, 2 + reste.size());
-        if (lettre != '\0') texte.insert(n, 1, lettre);
+    // The escapes are taken from the first, and the text they leave is looked at again from
+    // the start: an escape removed may join a "\" before it to a "'" behind it. Building the
+    // result as a stack gives the same text in one pass: each escape is replaced as soon as
+    // its two characters have come, and what is kept never holds a whole escape.
+    Texte r;
+    r.reserve(texte.size());
+    for (char c : texte) {
+        r += c;
+        const std::size_t n = r.size();
+        if (n >= 4 && r[n - 4] == '\\' && r[n - 3] == '\'') {
+            const char lettre = LettreAccentuee(std::string_view(r).substr(n - 2));
+            r.resize(n - 4);
+            if (lettre != '\0') r += lettre;
+        }
     }
+    // An escape cut short by the end of the text goes with what is left of it.
+    for (;;) {
+        const std::size_t n = r.size();
+        if (n >= 2 && r[n - 2] == '\\' && r[n - 1] == '\'')
+            r.resize(n - 2);
+        else if (n >= 3 && r[n - 3] == '\\' && r[n - 2] == '\'')
+            r.resize(n - 3);
+        else
+            break;
+    }
+    texte = std::move(r);
 }
 
 } // namespace verdane

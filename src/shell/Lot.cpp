@@ -147,6 +147,10 @@ BilanLot ExecuterLot(Contexte& ctx, const OptionsLot& o, const Environnement& en
                "Ajoutez --remplacer pour le remplacer.");
         return finir(kSortieUsage);
     }
+    if (DossierExiste(o.resultat)) {
+        Erreur(ctx, "Le document résultat est un répertoire : " + o.resultat + ".");
+        return finir(kSortieEchec);
+    }
     if (!DossierExiste(DossierParent(o.resultat).empty() ? Texte(".")
                                                          : DossierParent(o.resultat))) {
         Erreur(ctx, "Le répertoire du document résultat n'existe pas : " +
@@ -164,7 +168,8 @@ BilanLot ExecuterLot(Contexte& ctx, const OptionsLot& o, const Environnement& en
     e.nbDossiersImposes = static_cast<std::int16_t>(o.compares.size());
     ChargerDossier(ctx);
 
-    switch (CreerDocument(ctx, o.modele, o.resultat, false, true, false)) {
+    // Without --remplacer, a result that appears meanwhile is not replaced.
+    switch (CreerDocument(ctx, o.modele, o.resultat, false, true, !o.remplacer)) {
     case IssueCreation::Faite:
         return finir(kSortieFaite);
     case IssueCreation::Abandonnee:
@@ -178,7 +183,8 @@ BilanLot ExecuterLot(Contexte& ctx, const OptionsLot& o, const Environnement& en
 }
 
 std::string RapportJson(const OptionsLot& o, const BilanLot& bilan,
-                        const std::vector<EvenementUtilisateur>& evenements) {
+                        const std::vector<EvenementUtilisateur>& evenements,
+                        const std::vector<EvenementsOmis>& omis) {
     EcrivainJson j;
     j.DebutObjet();
     j.Chaine("dossier", o.dossier);
@@ -216,6 +222,19 @@ std::string RapportJson(const OptionsLot& o, const BilanLot& bilan,
                         : ev.reponse == Reponse::Ok  ? "ok"
                                                      : "annuler";
         j.Chaine("reponse", r);
+        j.FinObjet();
+    }
+    j.FinTableau();
+    // Past the first events, only their number by kind and title.
+    long long nombreOmis = 0;
+    for (const auto& g : omis) nombreOmis += g.nombre;
+    j.Entier("evenementsOmis", nombreOmis);
+    j.DebutTableau("omisParGenre");
+    for (const auto& g : omis) {
+        j.DebutObjet();
+        j.Chaine("genre", g.genre);
+        j.Chaine("titre", g.titre);
+        j.Entier("nombre", g.nombre);
         j.FinObjet();
     }
     j.FinTableau();

@@ -44,8 +44,9 @@ struct BilanLot {
 // Runs the creation. `utilisateur` records what was said; the caller writes the report.
 BilanLot ExecuterLot(Contexte& ctx, const OptionsLot& options, const Environnement& env);
 
-// The JSON report of a run.
+// The JSON report of a run: the events kept in full, and the count of those left out.
 std::string RapportJson(const OptionsLot& options, const BilanLot& bilan,
-                        const std::vector<EvenementUtilisateur>& evenements);
+                        const std::vector<EvenementUtilisateur>& evenements,
+                        const std::vector<EvenementsOmis>& omis = {});
 
 } // namespace verdane

@@ -1,9 +1,12 @@
 #pragma once
 // A user port that passes everything on to another and keeps a record of what was said and
-// asked, in order: the report of a run.
+// asked, in order: the report of a run. The record is bounded: the first events are kept in
+// full, the others only counted, by kind and title, so that a model with a hundred thousand
+// bad codes doesn't hold a hundred thousand messages in memory.
 
 #include "shell/etat/PortUtilisateur.h"
 
+#include <cstddef>
 #include <vector>
 
 namespace verdane {
@@ -14,9 +17,22 @@ struct EvenementUtilisateur {
     Reponse reponse{}; // the answer taken
 };
 
+// Events beyond the kept ones, counted: those of one kind ("message", "boite", "question" and
+// the like: the message's `genre`, empty for an error) and one title.
+struct EvenementsOmis {
+    Texte genre;
+    Texte titre;
+    long long nombre = 0;
+};
+
 class UtilisateurEnregistre : public PortUtilisateur {
 public:
-    explicit UtilisateurEnregistre(PortUtilisateur& suivant) : suivant_(suivant) {}
+    static constexpr std::size_t kEvenementsGardes = 1000;
+    // Past this many kinds of omitted events, the others count under one kind "autres".
+    static constexpr std::size_t kGenresOmis = 50;
+
+    explicit UtilisateurEnregistre(PortUtilisateur& suivant, std::size_t gardes = kEvenementsGardes)
+        : suivant_(suivant), gardes_(gardes) {}
 
     void AfficherMessage(const Message& m) override;
     void Boite(const Texte& texte, const Texte& titre, Icone icone) override;
@@ -29,11 +45,19 @@ public:
     void FermerJauge() override { suivant_.FermerJauge(); }
     void Sablier(bool actif) override { suivant_.Sablier(actif); }
 
+    // The first events of the run, in order.
     const std::vector<EvenementUtilisateur>& Evenements() const { return evenements_; }
+    // The events after those, counted by kind in the order each kind first came.
+    const std::vector<EvenementsOmis>& Omis() const { return omis_; }
+    long long NombreOmis() const { return nombreOmis_; }
 
 private:
+    void Garder(EvenementUtilisateur evenement);
     PortUtilisateur& suivant_;
+    std::size_t gardes_;
     std::vector<EvenementUtilisateur> evenements_;
+    std::vector<EvenementsOmis> omis_;
+    long long nombreOmis_ = 0;
 };
 
 } // namespace verdane

@@ -12,6 +12,9 @@ namespace fs = std::filesystem;
 namespace verdane {
 namespace {
 
+// A part is left for a day before it is taken as abandoned when its process can't be checked.
+constexpr auto kAgeAbandon = std::chrono::hours(24);
+
 std::string SuffixeAleatoire() {
     static constexpr char kChiffres[] = "0123456789abcdefghijklmnopqrstuvwxyz";
     std::random_device source;
@@ -23,16 +26,66 @@ std::string SuffixeAleatoire() {
     return s;
 }
 
+// The number of this process, as the system's process folder names it; "0" where there is none.
+std::string NumeroProcessus() {
+    std::error_code ec;
+    const fs::path soi = fs::read_symlink("/proc/self", ec);
+    const std::string n = ec ? std::string() : soi.filename().string();
+    if (n.empty() || n.find_first_not_of("0123456789") != std::string::npos) return "0";
+    return n;
+}
+
+std::string PrefixeTemporaire(const fs::path& cible) {
+    return "." + cible.filename().string() + ".part-";
+}
+
+// True if the part left by process `numero` can be removed: its process is gone, or it has
+// not been touched for a long time.
+bool Abandonne(const fs::path& part, const std::string& numero) {
+    std::error_code ec;
+    if (numero != "0" && fs::is_directory("/proc/self", ec) &&
+        !fs::exists(fs::path("/proc") / numero, ec) && !ec)
+        return true;
+    const auto quand = fs::last_write_time(part, ec);
+    return !ec && fs::file_time_type::clock::now() - quand > kAgeAbandon;
+}
+
 } // namespace
 
-FichierSur::FichierSur(std::string_view chemin) {
+void NettoyerTemporairesAbandonnes(std::string_view chemin) {
     const fs::path cible = CheminSysteme(chemin);
+    if (cible.filename().empty()) return;
+    const std::string prefixe = PrefixeTemporaire(cible);
+    const fs::path dossier = cible.parent_path().empty() ? fs::path(".") : cible.parent_path();
+    std::error_code ec;
+    fs::directory_iterator it(dossier, ec);
+    for (; !ec && it != fs::directory_iterator(); it.increment(ec)) {
+        const std::string nom = it->path().filename().string();
+        if (nom.compare(0, prefixe.size(), prefixe) != 0) continue;
+        const std::string reste = nom.substr(prefixe.size());
+        const auto tiret = reste.find('-');
+        // Older parts carry no process number: only their age tells.
+        const std::string numero = tiret == std::string::npos ? "0" : reste.substr(0, tiret);
+        std::error_code e2;
+        if (fs::is_regular_file(it->symlink_status(e2)) && Abandonne(it->path(), numero))
+            fs::remove(it->path(), e2);
+    }
+}
+
+FichierSur::FichierSur(std::string_view chemin, bool remplacer) : remplacer_(remplacer) {
+    const fs::path cible = CheminSysteme(chemin);
+    if (cible.filename().empty()) return;
+    // A folder (or a device) of that name can't be replaced by a document: said at once,
+    // before anything is written.
+    std::error_code ec;
+    const auto statut = fs::status(cible, ec);
+    if (fs::exists(statut) && !fs::is_regular_file(statut)) return;
+    NettoyerTemporairesAbandonnes(chemin);
     final_ = cible.string();
     const fs::path dossier = cible.parent_path();
+    const std::string prefixe = PrefixeTemporaire(cible) + NumeroProcessus() + "-";
     for (int essai = 0; essai < 5 && !ouvert_; ++essai) {
-        const fs::path temp =
-            dossier / ("." + cible.filename().string() + ".part-" + SuffixeAleatoire());
-        std::error_code ec;
+        const fs::path temp = dossier / (prefixe + SuffixeAleatoire());
         if (fs::exists(temp, ec)) continue;
         flux_.open(temp, std::ios::binary | std::ios::trunc);
         if (flux_) {
@@ -61,14 +114,31 @@ bool FichierSur::Valider() {
     flux_.close();
     std::error_code ec;
     if (bon && !flux_.fail()) {
-        // Keep the permissions of the file replaced, if any.
-        const auto ancien = fs::status(final_, ec);
-        if (!ec && fs::exists(ancien))
-            fs::permissions(temporaire_, ancien.permissions(), fs::perm_options::replace, ec);
-        ec.clear();
-        fs::rename(temporaire_, final_, ec);
+        if (remplacer_) {
+            // Keep the permissions of the file replaced, if any.
+            const auto ancien = fs::status(final_, ec);
+            if (!ec && fs::exists(ancien))
+                fs::permissions(temporaire_, ancien.permissions(), fs::perm_options::replace, ec);
+            ec.clear();
+            fs::rename(temporaire_, final_, ec);
+        } else {
+            // A second name given to the complete file fails if the name is taken: the check
+            // and the placing are one step.
+            fs::create_hard_link(temporaire_, final_, ec);
+            if (ec && ec != std::errc::file_exists) {
+                // A file system without links: the next best, a check then a rename.
+                std::error_code e2;
+                if (!fs::exists(fs::symlink_status(final_, e2)))
+                    fs::rename(temporaire_, final_, ec);
+                else
+                    ec = std::make_error_code(std::errc::file_exists);
+            }
+            nomPris_ = ec == std::errc::file_exists;
+        }
         if (!ec) {
             valide_ = true;
+            std::error_code e2;
+            fs::remove(temporaire_, e2); // the link's first name; nothing once renamed
             return true;
         }
     }

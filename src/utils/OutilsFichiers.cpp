@@ -2,6 +2,8 @@
 
 #include "utils/Chaines.h"
 
+#include <algorithm>
+#include <exception>
 #include <fstream>
 #include <system_error>
 #include <vector>
@@ -30,12 +32,26 @@ std::vector<Texte> Parties(std::string_view chemin) {
 std::optional<fs::path> EntreeSansCasse(const fs::path& dossier, const Texte& nom) {
     std::error_code ec;
     fs::directory_iterator it(dossier.empty() ? fs::path(".") : dossier, ec);
-    if (ec) return std::nullopt;
-    for (const auto& entree : it) {
-        const Texte candidat = Utf8VersCp1252(entree.path().filename().string());
-        if (EgalSansCasse(candidat, nom)) return dossier / entree.path().filename();
+    for (; !ec && it != fs::directory_iterator(); it.increment(ec)) {
+        const Texte candidat = Utf8VersCp1252(it->path().filename().string());
+        if (EgalSansCasse(candidat, nom)) return dossier / it->path().filename();
     }
     return std::nullopt;
+}
+
+// No name of the file system holds a NUL: a path read from a data file ends at its first one.
+std::string_view AvantNul(std::string_view chemin) {
+    return chemin.substr(0, chemin.find('\0'));
+}
+
+// An open stream on a regular file, or nothing: a folder, a pipe or a device is not read.
+std::optional<std::ifstream> OuvrirFichier(std::string_view chemin) {
+    const fs::path p = CheminSysteme(chemin);
+    std::error_code ec;
+    if (p.empty() || !fs::is_regular_file(p, ec)) return std::nullopt;
+    std::ifstream f(p, std::ios::binary);
+    if (!f) return std::nullopt;
+    return f;
 }
 
 } // namespace
@@ -50,7 +66,8 @@ Texte AjouterBarre(std::string_view chemin) {
     return t;
 }
 
-fs::path CheminSysteme(std::string_view chemin) {
+fs::path CheminSysteme(std::string_view cheminDonne) {
+    const std::string_view chemin = AvantNul(cheminDonne);
     if (chemin.empty()) return {};
     // The spelling given is the usual case: one look at the disk settles it.
     std::string direct = Cp1252VersUtf8(chemin);
@@ -163,24 +180,41 @@ Texte DossierParent(std::string_view chemin) {
     return p == std::string_view::npos ? Texte() : Texte(chemin.substr(0, p + 1));
 }
 
+// The streams report a failed read (a file that vanished, a device error) by an exception;
+// these two helpers turn it, and a file too big for memory, into "can't be read".
 std::optional<std::string> LireFichier(std::string_view chemin) {
-    std::ifstream f(CheminSysteme(chemin), std::ios::binary);
-    if (!f) return std::nullopt;
-    std::string contenu((std::istreambuf_iterator<char>(f)), std::istreambuf_iterator<char>());
-    if (f.bad()) return std::nullopt;
-    return contenu;
+    try {
+        auto f = OuvrirFichier(chemin);
+        if (!f) return std::nullopt;
+        std::string contenu;
+        char bloc[65536];
+        while (f->read(bloc, sizeof bloc) || f->gcount() > 0)
+            contenu.append(bloc, static_cast<std::size_t>(f->gcount()));
+        if (f->bad()) return std::nullopt;
+        return contenu;
+    } catch (const std::exception&) {
+        return std::nullopt;
+    }
 }
 
 std::optional<std::string> LireOctets(std::string_view chemin, std::uint64_t position,
                                       std::size_t taille) {
-    std::ifstream f(CheminSysteme(chemin), std::ios::binary);
-    if (!f) return std::nullopt;
-    f.seekg(static_cast<std::streamoff>(position));
-    if (!f) return std::string();
-    std::string octets(taille, '\0');
-    f.read(octets.data(), static_cast<std::streamsize>(taille));
-    octets.resize(static_cast<std::size_t>(f.gcount()));
-    return octets;
+    try {
+        auto f = OuvrirFichier(chemin);
+        if (!f) return std::nullopt;
+        f->seekg(0, std::ios::end);
+        const auto fin = f->tellg();
+        if (fin < 0 || position >= static_cast<std::uint64_t>(fin)) return std::string();
+        const std::uint64_t reste = static_cast<std::uint64_t>(fin) - position;
+        std::string octets(static_cast<std::size_t>(std::min<std::uint64_t>(taille, reste)), '\0');
+        f->seekg(static_cast<std::streamoff>(position));
+        if (!*f) return std::string();
+        f->read(octets.data(), static_cast<std::streamsize>(octets.size()));
+        octets.resize(static_cast<std::size_t>(f->gcount()));
+        return octets;
+    } catch (const std::exception&) {
+        return std::nullopt;
+    }
 }
 
 } // namespace verdane

@@ -50,13 +50,17 @@ Texte NomFichier(std::string_view chemin);
 Texte DossierParent(std::string_view chemin);
 
 // The path as the file system takes it (see above). Parts that don't exist keep their spelling.
+// A path holding a NUL (a name read from a damaged data file) ends there.
 std::filesystem::path CheminSysteme(std::string_view chemin);
 // A path of the file system as text of the engine.
 Texte CheminTexte(const std::filesystem::path& chemin);
 
+// None of these helpers throws: a failure is an answer ("absent", 0, nothing read).
+// Only a regular file is read: a folder, a pipe or a device gives nothing.
+
 // Whole content of a file, or nothing if it can't be read.
 std::optional<std::string> LireFichier(std::string_view chemin);
-// Bytes of a file from `position`, at most `taille`; fewer at the end of the file.
+// Bytes of a file from `position`, at most `taille`; fewer at the end of the file, none beyond.
 std::optional<std::string> LireOctets(std::string_view chemin, std::uint64_t position,
                                       std::size_t taille);
 

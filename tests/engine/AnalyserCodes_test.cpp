@@ -141,6 +141,12 @@ TEST_F(Scanner, CodesImbriquesSansAnnotation) {
     EXPECT_EQ(t, "%mrl(inconnu)% 0102");
     EXPECT_EQ(m.utilisateur.messages.size(), 1u);
     EXPECT_EQ(m.ctx.etat.CodeEnCours, ""); // left alone by nested codes
+
+    // Opened again before the close: the inner mark wins, the outer opens stay as text.
+    t = "%mrl(a %mrl(%mrl(tel)% b)% c";
+    AnalyserCodesImbriques(m.ctx, t);
+    EXPECT_EQ(t, "%mrl(a %mrl(0102 b)% c");
+    EXPECT_EQ(m.utilisateur.messages.size(), 1u);
 }
 
 TEST_F(Scanner, CodeInconnuResteEnTexte) {

@@ -283,7 +283,9 @@ TEST_F(ValeursSerieTest, LePremierEnregistrementDuCodeDonneLesValeurs) {
 
     for (const auto& [fichier, code] : {std::pair<Texte, Texte>{"DONNEES.DON", "LAIT"},
                                         {"ABSENT.DON", "LAIT:1"},
-                                        {"DONNEES", "LAIT:1"}}) {
+                                        {"DONNEES", "LAIT:1"},
+                                        // a damaged name: up to its NUL, the dossier's folder
+                                        {Texte("\0DONNEES.DON", 12), "LAIT:1"}}) {
         ctx.etat.graphes.valeursSerie.fill(7.0f);
         LireValeursSerie(ctx, fichier, code);
         EXPECT_EQ(ctx.etat.graphes.valeursSerie, (std::array<float, 14>{})) << fichier << code;

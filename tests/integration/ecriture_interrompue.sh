@@ -32,4 +32,12 @@ for attente in 0.05 0.2 0.5; do
         printf 'ancien resultat complet\n' > "$travail/resultat.rtf"
     fi
 done
+# The parts the killed runs left are removed by the next run that writes the same result.
+MARLO_HOME="$travail/Marlo" "$verdane" INI "$travail/gros.vdm" "$travail/resultat.rtf" "" remplacer \
+    </dev/null 2>/dev/null
+restes=$(find "$travail" -maxdepth 1 -name '.resultat.rtf.part-*' | wc -l)
+if [ "$restes" != 0 ]; then
+    echo "$restes fichiers temporaires laissés après une création complète"
+    exit 1
+fi
 echo "1 passed, 0 failed"

@@ -65,6 +65,23 @@ TEST(OutilsFichiers, LireOctetsAuBoutDuFichier) {
     EXPECT_FALSE(LireOctets(d / "absent", 0, 5).has_value());
 }
 
+TEST(OutilsFichiers, UnRepertoireOuUnNomCoupeParUnNulNeSeLitPas) {
+    test::DossierTemporaire d;
+    d.Ecrire("D/VL.don", "valeurs");
+    d.Ecrire("D/Editeur.svg/dedans", "x"); // a folder where a file is expected
+    for (const Texte& chemin : {d / "D/Editeur.svg", d / "D", d.Chemin(), d / "D/"}) {
+        EXPECT_FALSE(LireFichier(chemin).has_value()) << chemin;
+        EXPECT_FALSE(LireOctets(chemin, 0, 90).has_value()) << chemin;
+        EXPECT_FALSE(FichierExiste(chemin)) << chemin;
+        EXPECT_EQ(TailleFichier(chemin), 0) << chemin;
+    }
+    // A name read from a damaged record: it ends at its first NUL, and so names the folder
+    // itself, or the file before the NUL.
+    EXPECT_FALSE(LireFichier(d / "D/" + Texte("\0VL.don", 7)).has_value());
+    EXPECT_EQ(LireFichier(d / "D/VL.don" + Texte("\0\0\0", 3)).value_or("?"), "valeurs");
+    EXPECT_EQ(LireOctets(d / "D/VL.don" + Texte("\0x", 2), 4, 90).value_or("?"), "urs");
+}
+
 TEST(EcritureSure, UnFichierNonValideNeRemplaceRien) {
     test::DossierTemporaire d;
     d.Ecrire("doc.rtf", "ancien");

@@ -3,6 +3,7 @@
 
 #include "shell/Demarrage.h"
 #include "shell/console/ConsoleUtilisateur.h"
+#include "shell/main/DernierRecours.h"
 #include "shell/main/Fenetres.h"
 #include "shell/main/Plateforme.h"
 #ifdef VERDANE_QT_SHELL
@@ -23,9 +24,7 @@ std::string DossierDuProgramme(const char* argv0) {
     return chemin.parent_path().string() + "/";
 }
 
-} // namespace
-
-int main(int argc, char** argv) {
+int Programme(int argc, char** argv) {
     using namespace verdane;
     Plateforme plateforme(argc, argv); // outlives the run's state
     ConsoleUtilisateur console;
@@ -46,4 +45,11 @@ int main(int argc, char** argv) {
     if (const char* home = std::getenv("MARLO_HOME")) env.marloHome = Utf8VersCp1252(home);
     const auto ligne = LigneCommande::DepuisArguments(argc, argv);
     return ExecuterProgramme(*ctx, ligne, env);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    return verdane::DernierRecours("verdane", verdane::kSortieEchec,
+                                   [&] { return Programme(argc, argv); });
 }

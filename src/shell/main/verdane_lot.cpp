@@ -2,6 +2,7 @@
 
 #include "shell/Lot.h"
 #include "shell/console/ConsoleUtilisateur.h"
+#include "shell/main/DernierRecours.h"
 #include "shell/main/Plateforme.h"
 #include "utils/EcritureSure.h"
 
@@ -9,7 +10,9 @@
 #include <cstdlib>
 #include <memory>
 
-int main(int argc, char** argv) {
+namespace {
+
+int Programme(int argc, char** argv) {
     using namespace verdane;
     std::vector<Texte> arguments;
     for (int i = 1; i < argc; ++i) arguments.push_back(Utf8VersCp1252(argv[i]));
@@ -40,9 +43,17 @@ int main(int argc, char** argv) {
 
     const BilanLot bilan = ExecuterLot(*ctx, options, env);
     if (!options.rapport.empty() &&
-        !EcrireFichierSur(options.rapport, RapportJson(options, bilan, enregistre.Evenements()))) {
+        !EcrireFichierSur(options.rapport, RapportJson(options, bilan, enregistre.Evenements(),
+                                                       enregistre.Omis()))) {
         std::fprintf(stderr, "verdane-lot : %s\n",
                      TexteConsole("impossible d'écrire le rapport " + options.rapport).c_str());
     }
     return bilan.statut;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    return verdane::DernierRecours("verdane-lot", verdane::kSortieEchec,
+                                   [&] { return Programme(argc, argv); });
 }
