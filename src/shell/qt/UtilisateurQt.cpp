@@ -109,7 +109,11 @@ Reponse UtilisateurQt::Question(const Texte& texte, const Texte& titre, Boutons 
 void UtilisateurQt::OuvrirJauge(const Texte& titre) {
     jauge_->Commencer(titre.empty() ? QStringLiteral("Création du document en cours")
                                     : QStringLiteral("Mise à jour de ") + VersQt(titre),
-                      2970, false);
+                      2970, true);
+}
+
+bool UtilisateurQt::Annulation() {
+    return jauge_ && jauge_->Annulee();
 }
 
 void UtilisateurQt::PoserJauge(int largeur, const Texte& libelle) {

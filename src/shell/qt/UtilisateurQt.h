@@ -2,6 +2,7 @@
 // The user port on Qt: the message form, boxes and questions with French buttons, and the
 // progress window of a generation.
 
+#include "shell/etat/Annulation.h"
 #include "shell/etat/PortUtilisateur.h"
 
 #include <memory>
@@ -15,7 +16,7 @@ namespace verdane::qt {
 class FenetreProgression;
 class FrmAide;
 
-class UtilisateurQt : public PortUtilisateur {
+class UtilisateurQt : public PortUtilisateur, public Annulable {
 public:
     // `marlo`: the program runs a job of the command line (the message form is larger).
     explicit UtilisateurQt(bool marlo);
@@ -32,6 +33,8 @@ public:
     void PoserJauge(int largeur, const Texte& libelle) override;
     void FermerJauge() override;
     void Sablier(bool actif) override;
+    // The gauge's cancel button was pressed since it opened.
+    bool Annulation() override;
 
 private:
     std::unique_ptr<FrmAide> aide_;
