@@ -6,7 +6,7 @@ set -euo pipefail
 # Debian's qt6-charts-dev does not pull the OpenGL module its CMake files ask for; the desktop
 # bar docks itself through libxcb; git is used by the test command.
 paquets=(cmake ninja-build g++ git libgtest-dev libgmock-dev libbenchmark-dev clang-format
-         qt6-base-dev qt6-charts-dev libqt6opengl6-dev libgl-dev libxcb1-dev
+         qt6-base-dev qt6-charts-dev libqt6opengl6-dev libgl-dev libxcb1-dev libpng-dev
          fonts-dejavu-core)
 paquets+=("$@")
 manquants=()
