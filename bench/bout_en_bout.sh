@@ -33,6 +33,13 @@ mesurer() {
 }
 
 printf 'load: %s\n' "$(cut -d' ' -f1-3 /proc/loadavg)"
+# The start of the program (libraries, options, dossier) on a model of one line.
+"$generateur" "$travail/vide" 1 0 >/dev/null
+printf '{\\rtf1 x}\r\n' >"$travail/vide/petit.vdm"
+read -r u s _ _ < <(mesurer "$lot" --dossier "$travail/vide/D" --modele "$travail/vide/petit.vdm" \
+    --resultat "$travail/vide/petit.rtf" --remplacer)
+depart=$(awk -v u="$u" -v s="$s" 'BEGIN { printf "%.3f", u + s }')
+printf 'start of the program: %s s CPU\n' "$depart"
 for echelle in "${echelles[@]}"; do
     for graphiques in 0 20; do
         dossier="$travail/x$echelle-g$graphiques"
@@ -45,9 +52,11 @@ for echelle in "${echelles[@]}"; do
             sans=$nous
             plancherCpu=$(for _ in 1 2 3; do "$plancher" "$dossier"; done |
                 sed -E 's/.* ([0-9.]+) s CPU.*/\1/' | sort -n | head -1)
-            printf 'x%s, %d bytes, no charts: ours %s s CPU (%s s wall), floor %s s CPU, ratio %s\n' \
+            printf 'x%s, %d bytes, no charts: ours %s s CPU (%s s wall), floor %s s CPU, ratio %s (%s without the start)\n' \
                 "$echelle" "$taille" "$nous" "$mur" "$plancherCpu" \
-                "$(awk -v a="$nous" -v b="$plancherCpu" 'BEGIN { printf "%.2f", a / b }')"
+                "$(awk -v a="$nous" -v b="$plancherCpu" 'BEGIN { printf "%.2f", a / b }')" \
+                "$(awk -v a="$nous" -v b="$plancherCpu" -v d="$depart" \
+                    'BEGIN { printf "%.2f", (a - d) / b }')"
             printf '    peak memory %d KB: the model + %s MiB (at most 1.2 x the model + 30 MiB)\n' \
                 "$mem" "$(awk -v m="$mem" -v t="$taille" \
                     'BEGIN { printf "%.1f", (m * 1024 - t) / 1048576 }')"
