@@ -6,6 +6,7 @@
 #include "utils/Chaines.h"
 #include "utils/EcritureSure.h"
 #include "utils/GestFontTable.h"
+#include "utils/LectureEntiere.h"
 #include "utils/OutilsFichiers.h"
 
 #include <algorithm>
@@ -343,7 +344,7 @@ IssueCreation CreerDocument(Contexte& ctx, const Texte& modeleDemande, const Tex
         modele = *lu;
     }
 
-    const auto contenu = LireFichier(modele);
+    auto contenu = LireFichierEntier(modele);
     if (!contenu || !FichierExiste(modele)) {
         ctx.utilisateur.Sablier(false);
         ctx.utilisateur.AfficherMessage({"Le modèle de document est introuvable ou illisible :",

@@ -1,6 +1,7 @@
 #include "utils/CacheFichiers.h"
 
 #include "utils/Chaines.h"
+#include "utils/LectureEntiere.h"
 #include "utils/OutilsFichiers.h"
 
 #if __has_include(<unistd.h>) && __has_include(<fcntl.h>)
@@ -83,6 +84,13 @@ std::optional<std::string> LireTout(const std::string& chemin, std::size_t prevu
 }
 
 } // namespace
+
+std::optional<std::string> LireFichierEntier(std::string_view chemin) {
+    const std::string systeme = CheminSysteme(chemin).string();
+    std::error_code ec;
+    const auto taille = fs::file_size(systeme, ec);
+    return LireTout(systeme, ec ? 0 : static_cast<std::size_t>(taille));
+}
 
 CacheFichiers::CacheFichiers(const CacheFichiers&) {}
 
