@@ -19,8 +19,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* donnees, std::size_t t
     ctx.etat.enrDossier = LireEnrDossier(octets.substr(0, EnrDossier::kTaille));
     ctx.etat.nbAnEtude = ctx.etat.enrDossier.nbAnEtude;
     ctx.etat.anneeDebut = ctx.etat.enrDossier.anneeDebut;
-    auto modele = DecouperModele(octets);
-    for (auto& morceau : modele.Morceaux) {
+    const auto modele = DecouperModele(Texte(octets));
+    for (const auto vue : modele.Morceaux) {
+        Texte morceau(vue);
         AnalyserCodes(ctx, morceau, false, false);
         Texte copie = morceau;
         AnalyserCodesImbriques(ctx, copie);

@@ -7,3 +7,5 @@ scripts/build.sh build-bench -DCMAKE_BUILD_TYPE=Release -DVERDANE_BENCHMARKS=ON 
 for b in build-bench/bench/bench_*; do
     [ -x "$b" ] && "$b" "$@"
 done
+# End to end: a generated model of about 3 MB and 8 times that, against the floor.
+bench/bout_en_bout.sh build-bench 1 8

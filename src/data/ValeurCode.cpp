@@ -3,6 +3,7 @@
 #include "data/ChargerDossier.h"
 #include "data/EnrDon.h"
 #include "data/FormatNombre.h"
+#include "data/LectureDon.h"
 #include "utils/Chaines.h"
 #include "utils/OutilsFichiers.h"
 
@@ -156,10 +157,11 @@ Texte ValeurCode(Contexte& ctx, Texte& code, int posTiret, std::int16_t& annee,
         return {};
     }
 
-    // 3. A missing or empty file gives nothing, and says nothing.
+    // 3. A missing or empty file gives nothing, and says nothing. A record read tells it; the
+    // answers that read no record look at the file first.
     if (repertoire.empty()) return {};
     const Texte chemin = repertoire + fichier;
-    if (!FichierExiste(chemin) || TailleFichier(chemin) == 0) return {};
+    FichierDon don(ctx.etat.fichiers, chemin);
 
     const Texte suite = Apres(code, tiret + 1);
     const char premier = Car(suite, 0);
@@ -170,33 +172,35 @@ Texte ValeurCode(Contexte& ctx, Texte& code, int posTiret, std::int16_t& annee,
         case 'i':
         case 'u': {
             // 7. The label, or the unit behind its "|".
-            const auto enr = LireEnregistrementDon(
-                chemin, enregistrement ? *enregistrement : ValEntier(Apres(suite, 1)));
+            const auto enr =
+                don.Lire(enregistrement ? *enregistrement : ValEntier(Apres(suite, 1)));
             if (!enr) return {};
             const auto barre = enr->libelle.find('|');
             if (premier == 'i') return Rogner(Minuscules(enr->libelle.substr(0, barre)));
             return barre == npos ? Texte() : Rogner(enr->libelle.substr(barre + 1));
         }
         case 'c':
-            return dom.uniteCulture;
+            return don.Present() ? dom.uniteCulture : Texte();
         case 'n':
-            return Rogner(dom.libelleCulture);
+            return don.Present() ? Rogner(dom.libelleCulture) : Texte();
         case 'p':
+            if (!don.Present()) return {};
             return Car(suite, 1) == 'c' ? dom.uniteCulturePerenne
                                         : Rogner(dom.libelleCulturePerenne);
         case 'a':
-            return Car(suite, 1) == 'c' ? Texte() : Rogner(dom.libelleModuleAnimal);
+            if (!don.Present() || Car(suite, 1) == 'c') return {};
+            return Rogner(dom.libelleModuleAnimal);
         case 'm':
         case 's': {
             // 6. Statistics over the study years.
             const Texte mot = Minuscules(suite.substr(0, 3));
             if (mot != "min" && mot != "max" && mot != "som" && mot != "moy") {
+                if (!don.Present()) return {};
                 MessageMotErrone(ctx, original);
                 return {};
             }
             const bool anneeVoulue = Car(suite, 3) == 'a';
-            const auto enr = LireEnregistrementDon(
-                chemin,
+            const auto enr = don.Lire(
                 enregistrement ? *enregistrement : ValEntier(Apres(suite, anneeVoulue ? 4 : 3)));
             if (!enr) return {};
             return Statistique(ctx, mot, anneeVoulue, *enr, decimales);
@@ -214,8 +218,7 @@ Texte ValeurCode(Contexte& ctx, Texte& code, int posTiret, std::int16_t& annee,
 
     // 5. The value of the year.
     if (annee < 0 || annee >= static_cast<int>(EnrDon::kNbValeurs)) return {};
-    const auto enr = LireEnregistrementDon(
-        chemin, enregistrement ? *enregistrement : ValEntier(Apres(suite, prefixe)));
+    const auto enr = don.Lire(enregistrement ? *enregistrement : ValEntier(Apres(suite, prefixe)));
     if (!enr) return {};
     decimales = DecimalesSerie(decimales, *enr);
     return FormatNombre(enr->valeur[static_cast<std::size_t>(annee)], decimales, false,
@@ -277,7 +280,8 @@ float ValeurSerie(Contexte& ctx, const Texte& code, int annee, bool tableauDebut
         return 0.0f;
     }
     if (indice < 0 || indice >= static_cast<int>(EnrDon::kNbValeurs)) return 0.0f;
-    const auto enr = LireEnregistrementDon(FichierSerie(e, s.tag), s.enregistrement);
+    const auto enr =
+        LireEnregistrementDon(ctx.etat.fichiers, FichierSerie(e, s.tag), s.enregistrement);
     return enr ? enr->valeur[static_cast<std::size_t>(indice)] : 0.0f;
 }
 
@@ -286,7 +290,8 @@ Texte LibelleSerie(Contexte& ctx, const Texte& code) {
     const CodeSerie s = AnalyserSerie(code);
     const Texte defaut = "Enregistrement n°" + std::to_string(s.enregistrement) + " de " + s.tag;
     if (Rogner(e.RepDossier[0]).empty() || Rogner(e.NomDossier[0]).empty()) return defaut;
-    const auto enr = LireEnregistrementDon(FichierSerie(e, s.tag), s.enregistrement);
+    const auto enr =
+        LireEnregistrementDon(ctx.etat.fichiers, FichierSerie(e, s.tag), s.enregistrement);
     if (!enr) return defaut;
     const Texte libelle = Rogner(enr->libelle);
     if (libelle.empty() || libelle[0] == '\0') return defaut;

@@ -2,6 +2,7 @@
 
 #include "data/ChargerDossier.h"
 #include "data/EnrDon.h"
+#include "data/LectureDon.h"
 #include "utils/Chaines.h"
 #include "utils/ClsIni.h"
 #include "utils/OutilsFichiers.h"
@@ -26,7 +27,7 @@ std::vector<Enr> Enregistrements(std::string_view octets, Lecteur lire) {
 
 template <typename Enr, typename Lecteur>
 std::vector<Enr> LireListe(const Etat& etat, std::string_view nom, Lecteur lire) {
-    const auto octets = LireFichier(FichierDossier(etat, nom));
+    const auto octets = etat.fichiers.LireFichier(FichierDossier(etat, nom));
     return octets ? Enregistrements<Enr>(*octets, lire) : std::vector<Enr>{};
 }
 
@@ -116,8 +117,9 @@ Texte FichierDonModule(const Etat& etat, int module) {
     return FichierDossier(etat, "AL" + ((module >= 0 && module < 10) ? "0" + n : n) + "AL.don");
 }
 
-std::optional<float> ValeurDon(std::string_view fichier, long long numero, int annee) {
-    const auto enr = LireEnregistrementDon(fichier, numero);
+std::optional<float> ValeurDon(const Etat& etat, std::string_view fichier, long long numero,
+                               int annee) {
+    const auto enr = LireEnregistrementDon(etat.fichiers, fichier, numero);
     if (!enr) return std::nullopt;
     if (annee < 0 || annee >= static_cast<int>(EnrDon::kNbValeurs)) return 0.0f;
     return enr->valeur[static_cast<std::size_t>(annee)];
@@ -126,13 +128,14 @@ std::optional<float> ValeurDon(std::string_view fichier, long long numero, int a
 std::vector<ModuleAnimal> LireModulesAnimaux(const Etat& etat) {
     const Texte fichier = FichierDossier(etat, "ModAniLib.ini");
     std::vector<ModuleAnimal> modules;
-    if (!FichierExiste(fichier)) return modules;
-    long long dernier = ValEntier(ClsIni::Lire(fichier, "GLOBAL", "NumLastMod", "0"));
+    const auto contenu = etat.fichiers.LireFichier(fichier);
+    if (!contenu) return modules;
+    long long dernier = ValEntier(ClsIni::LireDans(*contenu, "GLOBAL", "NumLastMod", "0"));
     if (dernier > kModulesMax) dernier = kModulesMax;
     for (int i = 1; i <= dernier; ++i) {
         const Texte section = "MOD" + std::to_string(i);
-        modules.push_back({i, Rogner(ClsIni::Lire(fichier, section, "ACTIF")) == "1",
-                           ClsIni::Lire(fichier, section, "Nom")});
+        modules.push_back({i, Rogner(ClsIni::LireDans(*contenu, section, "ACTIF")) == "1",
+                           ClsIni::LireDans(*contenu, section, "Nom")});
     }
     return modules;
 }

@@ -38,7 +38,8 @@ Texte FichierDonCulture(const Etat& etat, float numero, bool perenne, bool suffi
 Texte FichierDonModule(const Etat& etat, int module);
 // Value at a year index of record `numero` of a `.don` file; nothing when the file or the
 // record isn't there. An index outside 0 to 13 gives 0.
-std::optional<float> ValeurDon(std::string_view fichier, long long numero, int annee);
+std::optional<float> ValeurDon(const Etat& etat, std::string_view fichier, long long numero,
+                               int annee);
 
 struct ModuleAnimal {
     int numero = 0;

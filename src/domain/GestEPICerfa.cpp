@@ -81,7 +81,7 @@ Texte Bourrage(const Etat& etat, const Texte& prefixe, const std::vector<int>& b
 
 // Value of a record of IMMORES.DON at a year; 0 when missing.
 float Immores(const Etat& etat, long long record, int annee) {
-    return ValeurDon(FichierDossier(etat, "IMMORES.DON"), record, annee).value_or(0.0f);
+    return ValeurDon(etat, FichierDossier(etat, "IMMORES.DON"), record, annee).value_or(0.0f);
 }
 
 // The series of the summary rows, by year: records added and taken off.
@@ -233,7 +233,7 @@ Texte TableauPlansFinancement(Contexte& ctx, int dec, const Texte& prefixe) {
     const Texte pde = FichierDossier(etat, "PDE.DON");
     for (int c = 1; c <= 5; ++c) {
         Texte t = "exercice " + std::to_string(c);
-        if (const auto annee = ValeurDon(pde, c, 1); annee && *annee != 0)
+        if (const auto annee = ValeurDon(etat, pde, c, 1); annee && *annee != 0)
             t += " " + FormatNombre(*annee, 0, false, MarquesNombre{",", ""});
         titres.push_back(t);
     }

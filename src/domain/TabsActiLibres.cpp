@@ -41,7 +41,7 @@ float NombreActivite(Contexte& ctx, std::string_view code, int annee) {
     if (!numero) return 0;
     EtatDomaine& d = ctx.etat.domaine;
     const Texte fichier = FichierDonModule(ctx.etat, d.numModuleAnimal);
-    if (!FichierExiste(fichier)) {
+    if (!ctx.etat.fichiers.Existe(fichier)) {
         if (d.moduleSignale != d.numModuleAnimal) {
             d.moduleSignale = d.numModuleAnimal;
             ctx.utilisateur.AfficherMessage(
@@ -54,7 +54,7 @@ float NombreActivite(Contexte& ctx, std::string_view code, int annee) {
         }
         return 0;
     }
-    return ValeurDon(fichier, *numero, annee).value_or(0.0f);
+    return ValeurDon(ctx.etat, fichier, *numero, annee).value_or(0.0f);
 }
 
 Texte ValeurActivite(Contexte& ctx, std::string_view code, int annee) {

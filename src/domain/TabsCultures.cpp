@@ -64,7 +64,7 @@ struct LecteurCulture {
     int annee;
     float operator()(long long n, bool t = false, int decalage = 0) const {
         const float num = perenne ? etat.domaine.numCulturePerenne : etat.domaine.numCulture;
-        return ValeurDon(FichierDonCulture(etat, num, perenne, t), n, annee + decalage)
+        return ValeurDon(etat, FichierDonCulture(etat, num, perenne, t), n, annee + decalage)
             .value_or(0.0f);
     }
 };
@@ -228,7 +228,8 @@ float NombreArobaseCulture(const Etat& etat, std::string_view code, int annee, b
     code = code.substr(0, code.find(':'));
     const LecteurCulture r{etat, perenne, annee};
     if (Minuscules(code).rfind("assolemper", 0) == 0)
-        return ValeurDon(FichierDonCulture(etat, etat.domaine.numCulturePerenne, true), 1, annee)
+        return ValeurDon(etat, FichierDonCulture(etat, etat.domaine.numCulturePerenne, true), 1,
+                         annee)
             .value_or(0.0f);
     if (auto v = Composite(code, r, etat.domaine.cultureCourante.genre)) return *v;
     const bool t = !code.empty() && code.back() == 't';
@@ -353,7 +354,7 @@ Texte BlocCulture(const Etat& etat, const EnrCulture& c) {
     const int u = c.unite.empty() ? -1 : c.unite[0] - '0';
     const Texte unite = u >= 0 && u <= 3 ? kUnites[u] : "";
     Texte valeurStock;
-    if (const auto v = ValeurDon(FichierDonCulture(etat, c.numero, false),
+    if (const auto v = ValeurDon(etat, FichierDonCulture(etat, c.numero, false),
                                  (c.genre == 2 || c.genre == 3) ? 18 : 17, 1))
         valeurStock = TexteNombre(etat, *v, 7, false);
     return "\\par \\plain \\ql\\fs28\\cf" + couleur + "\\b     " + Rogner(c.libelle) +
@@ -397,10 +398,11 @@ Texte TableauCultures(Contexte& ctx, const Texte& codeComplet, const RenduTablea
     if (perenne) {
         for (const auto& c : LireCulturesPerennes(ctx.etat)) {
             const Texte fichier = FichierDonCulture(ctx.etat, c.numero, true);
-            if (!FichierExiste(fichier)) continue;
+            if (!ctx.etat.fichiers.Existe(fichier)) continue;
             if (d.ignorerPerennesVides) {
                 float somme = 0;
-                for (int a = 1; a <= 6; ++a) somme += ValeurDon(fichier, 74, a).value_or(0.0f);
+                for (int a = 1; a <= 6; ++a)
+                    somme += ValeurDon(ctx.etat, fichier, 74, a).value_or(0.0f);
                 if (somme == 0) continue;
             }
             PoserCulturePerenne(d, c);

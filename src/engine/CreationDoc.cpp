@@ -7,6 +7,7 @@
 #include "utils/Chaines.h"
 #include "utils/EcritureSure.h"
 #include "utils/GestFontTable.h"
+#include "utils/LectureEntiere.h"
 #include "utils/OutilsFichiers.h"
 
 #include <algorithm>
@@ -47,10 +48,13 @@ void AvancerJauge(Contexte& ctx) {
     ctx.utilisateur.PoserJauge(pourcent * kLargeurJauge / 100, std::to_string(pourcent) + " %");
 }
 
-// A piece being treated: its text and the offset of what is left of it. Searches that found
-// nothing in the rest are not made again: the rest only shrinks, so they can't succeed later.
+// A piece being treated: a view of the model until something must change in it, then a copy
+// of its own; and the offset of what is left of it. Searches that found nothing in the rest
+// are not made again: the rest only shrinks, so they can't succeed later.
 struct Morceau {
-    Texte p;
+    std::string_view vue;
+    Texte copie;
+    bool estCopie = false;
     std::size_t o = 0;
     bool sansTitre = false;
     bool sansPolices = false;
@@ -60,8 +64,41 @@ struct Morceau {
     std::size_t parDes = 0;
     bool sansPar = false;
 
-    std::string_view Reste() const { return std::string_view(p).substr(o); }
+    std::string_view P() const { return estCopie ? std::string_view(copie) : vue; }
+    std::string_view Reste() const { return P().substr(o); }
+    Texte& Modifiable() {
+        if (!estCopie) {
+            copie.assign(vue);
+            estCopie = true;
+        }
+        return copie;
+    }
 };
+
+// The next piece with `reste` in front of it: still a view of the model when `reste` ends
+// where that piece begins, as it does unless the piece was changed.
+Morceau AvecReste(std::string_view reste, std::string_view suivant) {
+    Morceau m;
+    if (reste.empty() || reste.data() + reste.size() == suivant.data()) {
+        m.vue =
+            reste.empty() ? suivant : std::string_view(reste.data(), reste.size() + suivant.size());
+    } else {
+        m.copie.reserve(reste.size() + suivant.size());
+        m.copie.append(reste).append(suivant);
+        m.estCopie = true;
+    }
+    return m;
+}
+
+// The first mark of the rest of a piece, from the marks found when the model was read while
+// the piece is a view of it.
+std::size_t ProchaineMarque(const ModeleEnMorceaux& lu, const Morceau& m) {
+    const std::string_view p = m.P();
+    if (m.estCopie || !lu.marquesCompletes) return TrouverSansCasse(p, "#mrl(", m.o);
+    const auto base = static_cast<std::size_t>(p.data() - lu.texte->data());
+    const auto n = lu.MarqueApres(base + m.o);
+    return (n != Texte::npos && n + 5 <= base + p.size()) ? n - base : Texte::npos;
+}
 
 // Step of a hidden paragraph: the first "\par" becomes the meaningless word "\p", so the
 // paragraph end hidden by a false condition goes away. The character behind it stays: it is
@@ -70,13 +107,14 @@ struct Morceau {
 // cost is that of the hidden paragraph, not of the rest of the piece.
 void MangerParagraphe(Morceau& m) {
     if (m.sansPar) return;
-    const auto n = m.p.find("\\par", std::max(m.o, m.parDes));
+    const auto n = m.P().find("\\par", std::max(m.o, m.parDes));
     if (n == Texte::npos) {
         m.sansPar = true;
         return;
     }
-    const auto debut = m.p.begin() + static_cast<std::ptrdiff_t>(m.o);
-    const auto lettres = m.p.begin() + static_cast<std::ptrdiff_t>(n + 2);
+    Texte& p = m.Modifiable(); // a copy of the piece, made once
+    const auto debut = p.begin() + static_cast<std::ptrdiff_t>(m.o);
+    const auto lettres = p.begin() + static_cast<std::ptrdiff_t>(n + 2);
     std::move_backward(debut, lettres, lettres + 2);
     m.o += 2;
     m.parDes = n + 2; // the "\p" left, which may start a new "\par" ("\parar")
@@ -86,30 +124,34 @@ void MangerParagraphe(Morceau& m) {
 // whole rest was written.
 bool PasserInformations(Sortie& sortie, Morceau& m) {
     if (m.sansTitre) return true;
-    const auto titre = m.p.find("\\title", m.o);
+    const std::string_view p = m.P();
+    const auto titre = p.find("\\title", m.o);
     if (titre == Texte::npos) {
         m.sansTitre = true;
         return true;
     }
     std::string_view mot = "\\author";
-    auto n = m.p.find(mot, titre);
+    auto n = p.find(mot, titre);
     if (n == Texte::npos) {
         mot = "\\company";
-        n = m.p.find(mot, m.o);
+        n = p.find(mot, m.o);
     }
     if (n == Texte::npos) {
         sortie.EcrireLigne(m.Reste());
         return false;
     }
-    sortie.Ecrire(std::string_view(m.p).substr(m.o, n + mot.size() - m.o));
+    sortie.Ecrire(p.substr(m.o, n + mot.size() - m.o));
     m.o = n + mot.size();
     return true;
 }
 
 void AjouterTablesRtf(Contexte& ctx, Morceau& m) {
-    if (!m.sansPolices) m.sansPolices = !AjouterPolices(m.p, m.o);
+    if (!m.sansPolices)
+        m.sansPolices =
+            m.P().find("{\\fonttbl", m.o) == Texte::npos || !AjouterPolices(m.Modifiable(), m.o);
+    if (!m.sansCouleurs && m.P().find("{\\colortbl;", m.o) == Texte::npos) m.sansCouleurs = true;
     if (!m.sansCouleurs) {
-        const auto decalage = AjouterCouleurs(m.p, m.o);
+        const auto decalage = AjouterCouleurs(m.Modifiable(), m.o);
         if (decalage)
             ctx.etat.decalageCouleurs = *decalage;
         else
@@ -123,11 +165,12 @@ void ReparerSignets(Morceau& m) {
     for (std::size_t i = 0; i < kSignets.size(); ++i) {
         if (m.sansSignet[i]) continue;
         const Texte coupe = Texte("#mrl{\\*\\bkmkend ") + kSignets[i] + "}(";
-        const auto n = m.p.find(coupe, m.o);
+        const auto n = m.P().find(coupe, m.o);
         if (n == Texte::npos)
             m.sansSignet[i] = true;
         else
-            m.p.replace(n, coupe.size(), Texte("{\\*\\bkmkend ") + kSignets[i] + "}#mrl(");
+            m.Modifiable().replace(n, coupe.size(),
+                                   Texte("{\\*\\bkmkend ") + kSignets[i] + "}#mrl(");
     }
 }
 
@@ -148,13 +191,16 @@ Texte PlainteBaliseManquante() {
 }
 
 // The main loop of a creation. False when the user stopped it.
-bool Creer(Contexte& ctx, std::vector<Texte>& morceaux, Sortie& sortie) {
+bool Creer(Contexte& ctx, const ModeleEnMorceaux& lu, Sortie& sortie) {
     Etat& e = ctx.etat;
+    const auto& morceaux = lu.Morceaux;
     const std::size_t nb = morceaux.size();
+    Morceau m;
     for (std::size_t i = 0; i < nb; ++i) {
         if (AnnulationDemandee(ctx.utilisateur)) return false;
-        Morceau m;
-        m.p = std::move(morceaux[i]);
+        if (i == 0) m.vue = morceaux[0];
+        Morceau suivant; // the next piece, with what this one hands on in front of it
+        bool reporte = false;
         const bool dernier = i + 1 == nb;
         for (;;) { // a piece is treated again behind each code
             if (!e.SuiteVisible) {
@@ -166,7 +212,7 @@ bool Creer(Contexte& ctx, std::vector<Texte>& morceaux, Sortie& sortie) {
             AjouterTablesRtf(ctx, m);
             if (!PasserInformations(sortie, m)) break;
             ReparerSignets(m);
-            const auto n = TrouverSansCasse(m.p, "#mrl(", m.o);
+            const auto n = ProchaineMarque(lu, m);
             if (n == Texte::npos) {
                 const std::string_view reste = m.Reste();
                 const std::size_t queue = std::min<std::size_t>(6, reste.size());
@@ -174,26 +220,30 @@ bool Creer(Contexte& ctx, std::vector<Texte>& morceaux, Sortie& sortie) {
                     // The start of a mark may lie in the last characters: they go on with the
                     // next piece; what stands before them is written now.
                     sortie.Ecrire(reste.substr(0, reste.size() - queue));
-                    morceaux[i + 1].insert(0, reste.substr(reste.size() - queue));
+                    suivant = AvecReste(reste.substr(reste.size() - queue), morceaux[i + 1]);
+                    reporte = true;
                 } else {
                     sortie.EcrireLigne(reste);
                 }
                 break;
             }
-            sortie.Ecrire(std::string_view(m.p).substr(m.o, n - m.o));
+            const std::string_view p = m.P();
+            sortie.Ecrire(p.substr(m.o, n - m.o));
             m.o = n;
-            const auto fin = TrouverSansCasse(m.p, ")#", n);
+            const auto fin = p.find(")#", n);
             if (fin != Texte::npos) {
-                Texte code = m.p.substr(n, fin + 2 - n);
+                Texte code(p.substr(n, fin + 2 - n));
                 e.SuiteVisible = ctx.analyseur->Analyser(ctx, code, false, false);
                 AvancerJauge(ctx);
                 sortie.EcrireLigne(code);
                 m.o = fin + 2;
-                if (m.o >= m.p.size()) break;
+                if (m.o >= p.size()) break;
                 continue;
             }
-            if (m.p.size() - n < kLimiteCodeCreation && !dernier) {
-                morceaux[i + 1].insert(0, m.Reste()); // a code may span pieces up to that size
+            if (p.size() - n < kLimiteCodeCreation && !dernier) {
+                // A code may span pieces up to that size.
+                suivant = AvecReste(m.Reste(), morceaux[i + 1]);
+                reporte = true;
                 break;
             }
             SignalerBaliseManquante(ctx, m.Reste());
@@ -201,6 +251,9 @@ bool Creer(Contexte& ctx, std::vector<Texte>& morceaux, Sortie& sortie) {
             sortie.EcrireLigne(PlainteBaliseManquante() + Texte(m.Reste()));
             break;
         }
+        if (dernier) break;
+        if (!reporte) suivant.vue = morceaux[i + 1];
+        m = std::move(suivant);
     }
     return true;
 }
@@ -208,44 +261,52 @@ bool Creer(Contexte& ctx, std::vector<Texte>& morceaux, Sortie& sortie) {
 // The main loop of an update. Each value standing between a start marker and its end marker
 // is replaced by the value of the code that the end marker keeps; the markers and everything
 // around them stay, so the document can be refreshed again. False when the user stopped it.
-bool MettreAJour(Contexte& ctx, std::vector<Texte>& morceaux, Sortie& sortie) {
+bool MettreAJour(Contexte& ctx, const ModeleEnMorceaux& lu, Sortie& sortie) {
     Etat& e = ctx.etat;
+    const auto& morceaux = lu.Morceaux;
     const std::size_t nb = morceaux.size();
+    Morceau m;
     for (std::size_t i = 0; i < nb; ++i) {
         if (AnnulationDemandee(ctx.utilisateur)) return false;
-        Morceau m;
-        m.p = std::move(morceaux[i]);
+        if (i == 0) m.vue = morceaux[0];
+        Morceau suivant;
+        bool reporte = false;
         const bool dernier = i + 1 == nb;
-        if (!PasserInformations(sortie, m)) continue;
-        for (;;) {
-            const auto debut = TrouverSansCasse(m.p, kDebutValeur, m.o);
+        const bool informations = PasserInformations(sortie, m);
+        const std::string_view p = m.P();
+        for (; informations;) {
+            const auto debut = TrouverSansCasse(p, kDebutValeur, m.o);
             if (debut == Texte::npos) {
                 sortie.EcrireLigne(m.Reste());
                 break;
             }
             const auto valeur = debut + kDebutValeur.size();
-            const auto marque = TrouverSansCasse(m.p, kFinValeur, valeur);
-            const auto fin =
-                marque == Texte::npos ? Texte::npos : TrouverSansCasse(m.p, ")#", marque);
+            const auto marque = TrouverSansCasse(p, kFinValeur, valeur);
+            const auto fin = marque == Texte::npos ? Texte::npos : p.find(")#", marque);
             if (fin == Texte::npos) {
-                sortie.Ecrire(std::string_view(m.p).substr(m.o, debut - m.o));
+                sortie.Ecrire(p.substr(m.o, debut - m.o));
                 m.o = debut;
-                if (!dernier && m.p.size() - debut < kLimiteCodeMiseAJour)
-                    morceaux[i + 1].insert(0, m.Reste());
-                else
+                if (!dernier && p.size() - debut < kLimiteCodeMiseAJour) {
+                    suivant = AvecReste(m.Reste(), morceaux[i + 1]);
+                    reporte = true;
+                } else {
                     sortie.EcrireLigne(m.Reste());
+                }
                 break;
             }
             const auto interieur = marque + kFinValeur.size();
-            Texte code = "#mrl(" + m.p.substr(interieur, fin - interieur) + ")#";
+            Texte code = "#mrl(" + Texte(p.substr(interieur, fin - interieur)) + ")#";
             ctx.analyseur->Analyser(ctx, code, false, true);
-            sortie.Ecrire(std::string_view(m.p).substr(m.o, valeur - m.o));
+            sortie.Ecrire(p.substr(m.o, valeur - m.o));
             sortie.Ecrire(code);
-            sortie.Ecrire(std::string_view(m.p).substr(marque, fin + 2 - marque));
+            sortie.Ecrire(p.substr(marque, fin + 2 - marque));
             ++e.ChampsMaj;
             AvancerJauge(ctx);
             m.o = fin + 2;
         }
+        if (dernier) break;
+        if (!reporte) suivant.vue = morceaux[i + 1];
+        m = std::move(suivant);
     }
     return true;
 }
@@ -269,6 +330,7 @@ Texte NomJauge(const Texte& nom) {
 IssueCreation CreerDocument(Contexte& ctx, const Texte& modeleDemande, const Texte& resultat,
                             bool miseAJour, bool sansOuverture, bool demanderRemplacement) {
     Etat& e = ctx.etat;
+    e.fichiers.NouveauDocument();
     ChargerDossier(ctx);
     if (e.anneesPDE) e.nbAnEtude = static_cast<std::int16_t>(*e.anneesPDE == 0 ? 5 : *e.anneesPDE);
     e.NumPageCourant = 0;
@@ -306,14 +368,14 @@ IssueCreation CreerDocument(Contexte& ctx, const Texte& modeleDemande, const Tex
         modele = *lu;
     }
 
-    const auto contenu = LireFichier(modele);
+    auto contenu = LireFichierEntier(modele);
     if (!contenu || !FichierExiste(modele)) {
         ctx.utilisateur.Sablier(false);
         ctx.utilisateur.AfficherMessage({"Le modèle de document est introuvable ou illisible :",
                                          modele, "Création impossible", ""});
         return IssueCreation::ModeleIllisible;
     }
-    ModeleEnMorceaux lu = DecouperModele(*contenu);
+    const ModeleEnMorceaux lu = DecouperModele(std::move(*contenu));
     e.NbCodes = lu.NbCodes;
 
     const Texte cible = miseAJour ? modele : resultat;
@@ -330,8 +392,7 @@ IssueCreation CreerDocument(Contexte& ctx, const Texte& modeleDemande, const Tex
     }
     if (e.NbCodes > 0) ctx.utilisateur.OuvrirJauge(miseAJour ? NomJauge(NomFichier(resultat)) : "");
 
-    const bool complet =
-        miseAJour ? MettreAJour(ctx, lu.Morceaux, sortie) : Creer(ctx, lu.Morceaux, sortie);
+    const bool complet = miseAJour ? MettreAJour(ctx, lu, sortie) : Creer(ctx, lu, sortie);
     if (!complet) {
         // Stopped by the user: the output is dropped unwritten, the document stays as it was.
         if (e.NbCodes > 0) ctx.utilisateur.FermerJauge();

@@ -2,6 +2,10 @@
 
 #include "utils/Chaines.h"
 
+#include <algorithm>
+#include <cstdint>
+#include <cstring>
+
 namespace verdane {
 namespace {
 
@@ -33,42 +37,72 @@ bool DelimiteDeja(char c) {
     return c == ' ' || c == '\\' || c == '{' || c == '}';
 }
 
-int CompterMarques(std::string_view ligne) {
-    int n = 0;
-    for (auto p = TrouverSansCasse(ligne, "#mrl("); p != std::string_view::npos;
-         p = TrouverSansCasse(ligne, "#mrl(", p + 5))
-        ++n;
-    return n;
+bool EstMarque(std::string_view texte, std::size_t p) {
+    static constexpr std::string_view kMarque = "#mrl(";
+    if (p + kMarque.size() > texte.size()) return false;
+    for (std::size_t k = 0; k < kMarque.size(); ++k)
+        if (Majuscule(texte[p + k]) != Majuscule(kMarque[k])) return false;
+    return true;
 }
 
 } // namespace
 
-ModeleEnMorceaux DecouperModele(std::string_view contenu) {
+std::size_t ModeleEnMorceaux::MarqueApres(std::size_t position) const {
+    const auto it = std::lower_bound(marques.begin(), marques.end(), position);
+    return it == marques.end() ? Texte::npos : *it;
+}
+
+ModeleEnMorceaux DecouperModele(Texte contenu) {
     ModeleEnMorceaux modele;
-    if (contenu.empty()) return modele;
-    Texte courant;
+    Texte& t = *modele.texte;
+    t = std::move(contenu);
+    if (t.empty()) return modele;
+    // Lines are moved down over the line ends in place: what is written never overtakes what is
+    // read, a blank put for a line end taking at most its room.
+    const std::size_t taille = t.size();
+    // Positions are kept on 32 bits, and at most one for 32 characters.
+    const std::size_t limiteMarques = taille <= UINT32_MAX ? taille / 32 + 16 : 0;
+    std::vector<std::size_t> debuts{0}; // start of each piece
+    std::size_t ecrit = 0;              // end of the text kept
+    std::size_t examine = 0;            // marks are looked for from here
     std::size_t i = 0;
-    while (i < contenu.size()) {
+    while (i < taille) {
         // One line: up to CR LF, CR or LF.
         std::size_t fin = i;
-        while (fin < contenu.size() && contenu[fin] != '\r' && contenu[fin] != '\n') ++fin;
-        const std::string_view ligne = contenu.substr(i, fin - i);
-        if (fin < contenu.size()) {
-            const bool crlf =
-                contenu[fin] == '\r' && fin + 1 < contenu.size() && contenu[fin + 1] == '\n';
+        while (fin < taille && t[fin] != '\r' && t[fin] != '\n') ++fin;
+        const std::size_t longueur = fin - i;
+        const std::size_t debut = i;
+        if (fin < taille) {
+            const bool crlf = t[fin] == '\r' && fin + 1 < taille && t[fin + 1] == '\n';
             fin += crlf ? 2 : 1;
         }
         i = fin;
-        if (courant.size() > 1000) {
-            modele.Morceaux.push_back(std::move(courant));
-            courant.clear();
+        if (ecrit - debuts.back() > 1000) debuts.push_back(ecrit);
+        const std::string_view courant(t.data() + debuts.back(), ecrit - debuts.back());
+        if (longueur > 0 && !DelimiteDeja(t[debut]) && FinitParMotDeControle(courant))
+            t[ecrit++] = ' ';
+        const std::size_t debutEcrit = ecrit;
+        if (ecrit != debut) std::memmove(t.data() + ecrit, t.data() + debut, longueur);
+        ecrit += longueur;
+        // Marks ending in this line; those that began on an earlier line are found, not counted.
+        const std::string_view fait(t.data(), ecrit);
+        for (std::size_t p = examine; p + 5 <= ecrit; ++p) {
+            p = fait.find('#', p);
+            if (p == Texte::npos) break;
+            if (!EstMarque(fait, p)) continue;
+            if (p >= debutEcrit) ++modele.NbCodes;
+            if (modele.marques.size() < limiteMarques)
+                modele.marques.push_back(static_cast<std::uint32_t>(p));
+            else
+                modele.marquesCompletes = false;
         }
-        if (!ligne.empty() && !DelimiteDeja(ligne.front()) && FinitParMotDeControle(courant))
-            courant += ' ';
-        courant.append(ligne);
-        modele.NbCodes += CompterMarques(ligne);
+        examine = ecrit >= 4 ? std::max(examine, ecrit - 4) : examine;
     }
-    modele.Morceaux.push_back(std::move(courant));
+    t.resize(ecrit);
+    if (!modele.marquesCompletes) modele.marques = {};
+    debuts.push_back(ecrit);
+    for (std::size_t k = 0; k + 1 < debuts.size(); ++k)
+        modele.Morceaux.emplace_back(t.data() + debuts[k], debuts[k + 1] - debuts[k]);
     return modele;
 }
 

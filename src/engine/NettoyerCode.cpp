@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cctype>
+#include <cstdint>
 
 namespace verdane {
 
@@ -112,6 +113,27 @@ void RetirerSignets(Texte& code) {
     }
 }
 
+// The bytes a code holds, found in one pass. Removals take bytes away and never bring any, so
+// a word with a byte the code lacks can't be in it, before or after any removal.
+class OctetsPresents {
+public:
+    explicit OctetsPresents(std::string_view code) {
+        for (unsigned char c : code) bits_[c / 64] |= std::uint64_t{1} << (c % 64);
+    }
+    bool Tous(std::string_view mot) const {
+        for (unsigned char c : mot)
+            if (!(bits_[c / 64] & (std::uint64_t{1} << (c % 64)))) return false;
+        return true;
+    }
+
+private:
+    std::array<std::uint64_t, 4> bits_{};
+};
+
+void Retirer(Texte& code, const OctetsPresents& presents, std::string_view mot) {
+    if (presents.Tous(mot) && code.find(mot) != Texte::npos) code = RemplacerExact(code, mot, "");
+}
+
 } // namespace
 
 int RetirerMotRtf(Texte& code, std::string_view mot) {
@@ -126,17 +148,20 @@ int RetirerMotRtf(Texte& code, std::string_view mot) {
 }
 
 void NettoyerCode(Texte& code) {
-    RetirerMotsDeMiseEnForme(code);
-    for (auto mot : kRetraits) code = RemplacerExact(code, mot, "");
+    // A code as the user typed it, without any RTF, is the usual case: one look settles it.
+    const OctetsPresents presents(code);
+    if (presents.Tous("\\")) RetirerMotsDeMiseEnForme(code);
+    for (auto mot : kRetraits) Retirer(code, presents, mot);
 
-    RetirerSignets(code);
-    while (true) {
+    if (presents.Tous("kmk")) RetirerSignets(code);
+    while (presents.Tous("endOLE")) {
         const auto n = code.find("endOLE");
         if (n == Texte::npos) break;
         if (RetirerMotRtf(code, "endOLE_LINK") == 1) continue;
         code.erase(n, std::string_view("endOLE_LINK").size());
     }
 
+    if (!presents.Tous("\\")) return;
     code = RemplacerExact(code, "\\lquote", "'");
     code = RemplacerExact(code, "\\rquote", "'");
     code = RemplacerExact(code, "\\'80", "\x80");

@@ -34,7 +34,7 @@ void LireValeursSerie(Contexte& ctx, const Texte& fichier, const Texte& code) {
     const auto point = nom.find('.');
     if (point == Texte::npos || !EgalSansCasse(nom.substr(point), ".don")) return;
     if (Rogner(ctx.etat.RepDossier[0]).empty() || Rogner(ctx.etat.NomDossier[0]).empty()) return;
-    const auto octets = LireFichier(DossierComplet(ctx.etat, 0) + nom);
+    const auto octets = ctx.etat.fichiers.LireFichier(DossierComplet(ctx.etat, 0) + nom);
     if (!octets) return;
     const std::size_t enregistrement = EnregistrementDuCode(*octets, cherche);
     if (enregistrement == 0) return;

@@ -18,13 +18,12 @@ struct Fichier {
     Texte finLigne = "\r\n";
 };
 
-Fichier Charger(std::string_view chemin) {
+Fichier Decouper(std::string_view contenu) {
     Fichier f;
-    const auto contenu = LireFichier(chemin);
-    if (!contenu || contenu->empty()) return f;
-    if (contenu->find("\r\n") == npos && contenu->find('\n') != npos) f.finLigne = "\n";
+    if (contenu.empty()) return f;
+    if (contenu.find("\r\n") == npos && contenu.find('\n') != npos) f.finLigne = "\n";
     Texte ligne;
-    for (char c : *contenu) {
+    for (char c : contenu) {
         if (c == '\n') {
             if (!ligne.empty() && ligne.back() == '\r') ligne.pop_back();
             f.lignes.push_back(ligne);
@@ -35,6 +34,11 @@ Fichier Charger(std::string_view chemin) {
     }
     if (!ligne.empty()) f.lignes.push_back(ligne);
     return f;
+}
+
+Fichier Charger(std::string_view chemin) {
+    const auto contenu = LireFichier(chemin);
+    return contenu ? Decouper(*contenu) : Fichier{};
 }
 
 bool Enregistrer(std::string_view chemin, const Fichier& f) {
@@ -95,6 +99,15 @@ std::optional<std::size_t> TrouverCle(const Fichier& f, const Plage& p, std::str
         if (c && EgalSansCasse(c->nom, nom)) return i;
     }
     return std::nullopt;
+}
+
+Texte LireCleDans(const Fichier& f, std::string_view section, std::string_view cle,
+                  std::string_view valeurDefaut) {
+    const auto p = TrouverSection(f, section);
+    if (!p) return Texte(valeurDefaut);
+    const auto i = TrouverCle(f, *p, cle);
+    if (!i) return Texte(valeurDefaut);
+    return LireCle(f.lignes[*i])->valeur;
 }
 
 // A value is kept on one line.
@@ -191,12 +204,12 @@ Texte ClsIni::GetKey(std::string_view cle, std::string_view valeurDefaut) const 
 
 Texte ClsIni::Lire(std::string_view fichier, std::string_view section, std::string_view cle,
                    std::string_view valeurDefaut) {
-    const Fichier f = Charger(fichier);
-    const auto p = TrouverSection(f, section);
-    if (!p) return Texte(valeurDefaut);
-    const auto i = TrouverCle(f, *p, cle);
-    if (!i) return Texte(valeurDefaut);
-    return LireCle(f.lignes[*i])->valeur;
+    return LireCleDans(Charger(fichier), section, cle, valeurDefaut);
+}
+
+Texte ClsIni::LireDans(std::string_view contenu, std::string_view section, std::string_view cle,
+                       std::string_view valeurDefaut) {
+    return LireCleDans(Decouper(contenu), section, cle, valeurDefaut);
 }
 
 } // namespace verdane

@@ -45,6 +45,9 @@ public:
     // or the key is missing.
     static Texte Lire(std::string_view fichier, std::string_view section, std::string_view cle,
                       std::string_view valeurDefaut = {});
+    // The same, in the content of a file already read.
+    static Texte LireDans(std::string_view contenu, std::string_view section, std::string_view cle,
+                          std::string_view valeurDefaut = {});
 };
 
 } // namespace verdane

@@ -108,10 +108,10 @@ TEST_F(FichiersDomaineTest, FichiersDonEtModules) {
     EXPECT_EQ(NomFichier(FichierDonModule(ctx.etat, 12)), "AL12AL.don");
     Don("Cult3.don", {{2, {1, 2, 3}}});
     const Texte f = FichierDonCulture(ctx.etat, 3, false);
-    EXPECT_EQ(ValeurDon(f, 2, 2), 3.0f);
-    EXPECT_EQ(ValeurDon(f, 2, 14), 0.0f);
-    EXPECT_EQ(ValeurDon(f, 2, -1), 0.0f);
-    EXPECT_FALSE(ValeurDon(f, 3, 1));
+    EXPECT_EQ(ValeurDon(ctx.etat, f, 2, 2), 3.0f);
+    EXPECT_EQ(ValeurDon(ctx.etat, f, 2, 14), 0.0f);
+    EXPECT_EQ(ValeurDon(ctx.etat, f, 2, -1), 0.0f);
+    EXPECT_FALSE(ValeurDon(ctx.etat, f, 3, 1));
     d.Ecrire("Ferme/ModAniLib.ini",
              "[GLOBAL]\r\nNumLastMod=100000\r\n[MOD2]\r\nACTIF=1\r\nNom=Porcs\r\n");
     const auto modules = LireModulesAnimaux(ctx.etat);

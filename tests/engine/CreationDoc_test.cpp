@@ -207,3 +207,35 @@ TEST(NomJauge, LesLongsNomsSontRaccourcis) {
 }
 
 } // namespace verdane
+
+namespace verdane {
+
+// The marks found when the model is read, or searched for when a model made of little else
+// keeps none; pieces changed on the way (a hidden paragraph end, a bookmark repaired) are
+// searched too. Every way gives the same document.
+TEST_F(CreationDoc, LesMarquesTrouveesALaLectureOuCherchees) {
+    std::string serre, aere, attendu;
+    for (int i = 0; i < 400; ++i) {
+        const std::string code = (i % 7 == 3 ? "faux" : "c") + std::to_string(i);
+        serre += "#mrl(" + code + ")#\\par\r\n";
+        aere += std::string(60, 'x') + "#mrl{\\*\\bkmkend DDE_LINK}(" + code + ")#\\par\r\n";
+    }
+    const std::string r = Creer(serre);
+    for (int i = 0; i < 400; ++i) {
+        const bool faux = i % 7 == 3;
+        attendu += "[" + std::string(faux ? "faux" : "c") + std::to_string(i) + "]";
+        // A false condition takes the paragraph end behind it.
+        attendu += faux ? "\\p" : "\\par";
+    }
+    // The blanks that stand for line ends aside (none at the turn of a piece).
+    EXPECT_EQ(RemplacerExact(r, " ", ""), attendu);
+    EXPECT_EQ(analyseur.codes.size(), 400u);
+    const std::string r2 = Creer(aere);
+    const std::string sansRemplissage = RemplacerExact(r2, std::string(60, 'x'), "");
+    EXPECT_EQ(
+        RemplacerExact(RemplacerExact(sansRemplissage, "{\\*\\bkmkend DDE_LINK}", ""), " ", ""),
+        attendu);
+    EXPECT_EQ(analyseur.codes.size(), 800u);
+}
+
+} // namespace verdane

@@ -25,6 +25,11 @@ TEST(LectureModele, ToutesLesFinsDeLigneEtLesMarquesComptees) {
     ASSERT_EQ(m.Morceaux.size(), 1u);
     EXPECT_EQ(m.Morceaux[0], "a#mrl(x)#b#MRL(y)##mrl(z)#c#mrl(coupee)#");
     EXPECT_EQ(m.NbCodes, 3); // a mark split by a line end isn't counted
+    // ... but the driver finds it, where the pieces stand in the joined text.
+    EXPECT_TRUE(m.marquesCompletes);
+    EXPECT_EQ(m.marques, (std::vector<std::uint32_t>{1, 10, 18, 27}));
+    EXPECT_EQ(m.MarqueApres(11), 18u);
+    EXPECT_EQ(m.MarqueApres(28), Texte::npos);
     EXPECT_TRUE(DecouperModele("").Morceaux.empty());
     EXPECT_EQ(DecouperModele("\n\n").Morceaux.size(), 1u);
 }
@@ -41,6 +46,19 @@ TEST(LectureModele, UneFinDeLigneQuiDelimitaitUnMotDeControleResteUnBlanc) {
     EXPECT_EQ(DecouperModele("\\par\n#mrl(x)#").Morceaux[0], "\\par #mrl(x)#");
     EXPECT_EQ(DecouperModele("\\par\n- tiret").Morceaux[0], "\\par - tiret");
     EXPECT_EQ(DecouperModele("\\par\n{\\b x}").Morceaux[0], "\\par{\\b x}");
+}
+
+TEST(LectureModele, UnModeleFaitDeMarquesGardeUneListeBornee) {
+    Texte contenu;
+    for (int i = 0; i < 2000; ++i) contenu += "#mrl(\r\n";
+    const auto m = DecouperModele(contenu);
+    EXPECT_EQ(m.NbCodes, 2000);
+    EXPECT_FALSE(m.marquesCompletes);
+    EXPECT_TRUE(m.marques.empty());
+    ASSERT_EQ(m.Morceaux.size(), 10u);
+    // The pieces lie end to end in the one text.
+    EXPECT_EQ(m.Morceaux[0].data(), m.texte->data());
+    EXPECT_EQ(m.Morceaux[1].data(), m.Morceaux[0].data() + m.Morceaux[0].size());
 }
 
 } // namespace verdane

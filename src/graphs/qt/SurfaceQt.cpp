@@ -1,9 +1,8 @@
 #include "graphs/qt/SurfaceQt.h"
 
+#include "graphs/qt/EncodagePng.h"
 #include "graphs/qt/RenduGraphique.h"
 
-#include <QBuffer>
-#include <QByteArray>
 #include <QImage>
 
 #include <algorithm>
@@ -179,13 +178,7 @@ void SurfaceQt::PoserRectanglePlot(const RectGraph& rect) {
 }
 
 std::string SurfaceQt::CopierImage() {
-    const QImage image = RendreGraphique(r_, QSize(kLargeurGraphique, kHauteurGraphique));
-    if (image.isNull()) return {};
-    QByteArray octets;
-    QBuffer tampon(&octets);
-    tampon.open(QIODevice::WriteOnly);
-    if (!image.save(&tampon, "PNG")) return {};
-    return std::string(octets.constData(), static_cast<std::size_t>(octets.size()));
+    return EncoderPng(RendreGraphique(r_, QSize(kLargeurGraphique, kHauteurGraphique)));
 }
 
 std::unique_ptr<SurfaceGraphique> FabriqueSurfaceQt::Creer() {

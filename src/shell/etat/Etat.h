@@ -8,6 +8,7 @@
 #include "graphs/EtatGraphes.h"
 #include "library/EtatInsertion.h"
 #include "tables/EtatTableaux.h"
+#include "utils/CacheFichiers.h"
 #include "utils/Texte.h"
 
 #include <array>
@@ -110,6 +111,9 @@ struct Etat {
 
     // Number marks of the user's locale, read once at start.
     MarquesNombre marques;
+
+    // The dossier files of the run: names resolved once, small files kept while unchanged.
+    mutable CacheFichiers fichiers;
 
     EtatTableaux tableaux;
     EtatGraphes graphes;
