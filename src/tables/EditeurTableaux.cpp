@@ -25,22 +25,22 @@ Texte EnTexte(long long n) {
 }
 
 // The pair of default frames (label, value) of a kind of line, 0 to 5; -1 for none.
-int PaireCadres(GenreLigne genre) {
+int PaireCadres(TypeLigne genre) {
     switch (genre) {
-    case GenreLigne::Intitule:
+    case TypeLigne::Intitule:
         return 0;
-    case GenreLigne::Serie:
+    case TypeLigne::Serie:
         return 1;
-    case GenreLigne::Espace:
+    case TypeLigne::Espace:
         return -1;
-    case GenreLigne::Calcul:
+    case TypeLigne::Calcul:
         return 2;
-    case GenreLigne::Predefinies:
+    case TypeLigne::Predefinies:
         return 3;
-    case GenreLigne::SerieCulture:
-    case GenreLigne::SerieCulturePerenne:
+    case TypeLigne::SerieCulture:
+    case TypeLigne::SerieCulturePerenne:
         return 4;
-    case GenreLigne::SerieActivite:
+    case TypeLigne::SerieActivite:
         return 5;
     }
     return -1;
@@ -142,7 +142,7 @@ int NumeroTableau(const Texte& cle) {
     return n && *n > 0 && *n < 100000 ? static_cast<int>(*n) : 0;
 }
 
-const std::vector<Texte>& TextesGenresLigne() {
+const std::vector<Texte>& TextesTypesLigne() {
     static const std::vector<Texte> textes = {
         "    Intitulé   (de chaque colonne de valeurs)",
         "    Série          (de données Win-Marlo 2008)",
@@ -169,16 +169,16 @@ const std::vector<Texte>& TextesAnneesTableau() {
     return textes;
 }
 
-GenreLigne GenreDeLigne(const LigneModele& ligne) {
+TypeLigne TypeDeLigne(const LigneModele& ligne) {
     const Texte d = Minuscules(Rogner(ligne.definition));
-    if (CommencePar(d, "entete")) return GenreLigne::Intitule;
-    if (CommencePar(d, "espace") || CommencePar(d, "saut")) return GenreLigne::Espace;
-    if (CommencePar(d, "total")) return GenreLigne::Calcul;
-    if (CommencePar(d, "scult")) return GenreLigne::SerieCulture;
-    if (CommencePar(d, "scltp")) return GenreLigne::SerieCulturePerenne;
-    if (CommencePar(d, "sacti") || CommencePar(d, "activ")) return GenreLigne::SerieActivite;
-    if (CommencePar(d, "serie") || d.empty()) return GenreLigne::Serie;
-    return GenreLigne::Predefinies;
+    if (CommencePar(d, "entete")) return TypeLigne::Intitule;
+    if (CommencePar(d, "espac")) return TypeLigne::Espace;
+    if (CommencePar(d, "total")) return TypeLigne::Calcul;
+    if (CommencePar(d, "scult")) return TypeLigne::SerieCulture;
+    if (CommencePar(d, "scltp")) return TypeLigne::SerieCulturePerenne;
+    if (CommencePar(d, "alani")) return TypeLigne::SerieActivite;
+    if (CommencePar(d, "serie") || d.empty()) return TypeLigne::Serie;
+    return TypeLigne::Predefinies;
 }
 
 LigneModele NouvelleLigne(const Options& options) {
@@ -211,8 +211,8 @@ TableauModele NouveauTableau(const Options& options) {
     return t;
 }
 
-void AppliquerGenreLigne(LigneModele& ligne, GenreLigne genre, const Options& options,
-                         int nbColonnes) {
+void AppliquerTypeLigne(LigneModele& ligne, TypeLigne genre, const Options& options,
+                        int nbColonnes) {
     const int paire = PaireCadres(genre);
     const Texte cadreLibelle =
         paire < 0 ? Texte(kCadreVide) : CadreOption(options, static_cast<std::size_t>(2 * paire));
@@ -222,17 +222,17 @@ void AppliquerGenreLigne(LigneModele& ligne, GenreLigne genre, const Options& op
     const Texte format = FormatTexteDefaut(options);
     for (int c = 0; c < std::clamp(nbColonnes, 0, kMaxColonnesLibelle); ++c) {
         CelluleModele& cellule = ligne.cellules[static_cast<std::size_t>(c)];
-        if (genre == GenreLigne::Calcul) cellule.texte = c == 0 ? "TOTAL" : "";
-        if (genre == GenreLigne::Predefinies) cellule.texte.clear();
+        if (genre == TypeLigne::Calcul) cellule.texte = c == 0 ? "TOTAL" : "";
+        if (genre == TypeLigne::Predefinies) cellule.texte.clear();
         cellule.formatTexte = AvecChamp(format, 3, "1"); // bold labels
         cellule.formatCadre = cadreLibelle;
     }
     switch (genre) {
-    case GenreLigne::Intitule:
+    case TypeLigne::Intitule:
         ligne.definition = "entete:1:1ère année de prévision&Fin de prévision";
         ligne.formatTexte = AvecChamp(format, 4, "1"); // italic
         break;
-    case GenreLigne::Espace:
+    case TypeLigne::Espace:
         ligne.definition = "espace";
         ligne.formatTexte.clear();
         break;
@@ -376,22 +376,22 @@ bool EditeurTableaux::ChangerGenre(int genre) {
         return false;
     };
     for (const LigneModele& l : t->lignes) {
-        const GenreLigne g = GenreDeLigne(l);
+        const TypeLigne g = TypeDeLigne(l);
         const Texte d = Minuscules(Rogner(l.definition));
-        if (genre != kTableauCulture && g == GenreLigne::SerieCulture)
+        if (genre != kTableauCulture && g == TypeLigne::SerieCulture)
             return refuser("Le tableau contient des séries de données pour les cultures");
-        if (genre != kTableauCulturePerenne && g == GenreLigne::SerieCulturePerenne)
+        if (genre != kTableauCulturePerenne && g == TypeLigne::SerieCulturePerenne)
             return refuser("Le tableau contient des séries de données pour les cultures"
                            " pérennes !");
-        if (genre != kTableauActiviteLibre && g == GenreLigne::SerieActivite)
+        if (genre != kTableauActiviteLibre && g == TypeLigne::SerieActivite)
             return refuser("Vous devez d'abord supprimer les lignes d'activités libres animales "
                            "dans votre modèle de tableau");
-        if (genre != kTableauClassique && g == GenreLigne::Predefinies)
-            return refuser("Vous devez d'abord supprimer les lignes pré-définies dans votre modèle "
-                           "de tableau");
-        if (genre != kTableauClassique && CommencePar(d, "saut"))
+        if (genre != kTableauClassique && CommencePar(d, "newpg"))
             return refuser(
                 "Vous devez d'abord supprimer les sauts de page dans votre modèle de tableau");
+        if (genre != kTableauClassique && g == TypeLigne::Predefinies)
+            return refuser("Vous devez d'abord supprimer les lignes pré-définies dans votre modèle "
+                           "de tableau");
     }
     t->genre = static_cast<std::int16_t>(genre);
     return true;

@@ -29,7 +29,7 @@ std::vector<NoeudTableau> ArbreTableaux(const std::vector<TableauModele>& tablea
 int NumeroTableau(const Texte& cle);
 
 // Kinds of line as the line dialog offers them, in the order of its list.
-enum class GenreLigne {
+enum class TypeLigne {
     Intitule,
     Serie,
     Espace,
@@ -39,18 +39,18 @@ enum class GenreLigne {
     SerieCulturePerenne,
     SerieActivite
 };
-const std::vector<Texte>& TextesGenresLigne();
+const std::vector<Texte>& TextesTypesLigne();
 const std::vector<Texte>& TextesGenresTableau();
 const std::vector<Texte>& TextesAnneesTableau();
 // The kind of an existing line, from its definition.
-GenreLigne GenreDeLigne(const LigneModele& ligne);
+TypeLigne TypeDeLigne(const LigneModele& ligne);
 
 TableauModele NouveauTableau(const Options& options);
 LigneModele NouvelleLigne(const Options& options);
 // The defaults of a kind picked for a line: texts, definition, bold labels, formats and frames
 // from the options' pairs.
-void AppliquerGenreLigne(LigneModele& ligne, GenreLigne genre, const Options& options,
-                         int nbColonnes);
+void AppliquerTypeLigne(LigneModele& ligne, TypeLigne genre, const Options& options,
+                        int nbColonnes);
 
 // A label cell's text as typed: paragraph ends dropped, ";" (which separates the code's
 // fields) turned into ",".

@@ -133,18 +133,18 @@ TEST_F(EditeurTableauxTest, LesGenresDeLigneDonnentLeursValeursParDefaut) {
     LigneModele l = NouvelleLigne(ctx.etat.options);
     l.cellules[0].texte = "Produits";
     l.cellules[1].texte = "bruts";
-    AppliquerGenreLigne(l, GenreLigne::Calcul, ctx.etat.options, 2);
+    AppliquerTypeLigne(l, TypeLigne::Calcul, ctx.etat.options, 2);
     EXPECT_EQ(l.cellules[0].texte + "|" + l.cellules[1].texte, "TOTAL|");
     EXPECT_EQ(l.cellules[0].formatCadre, "2;2;0;0;3");
     EXPECT_EQ(l.formatCadre, "1;1;1;1;8");
     EXPECT_EQ(l.cellules[0].formatTexte, "5006;10;1;1;0;0;0;0;l"); // bold label
-    EXPECT_EQ(GenreDeLigne(l), GenreLigne::Serie);                 // no definition yet
+    EXPECT_EQ(TypeDeLigne(l), TypeLigne::Serie);                   // no definition yet
 
-    AppliquerGenreLigne(l, GenreLigne::Intitule, ctx.etat.options, 1);
+    AppliquerTypeLigne(l, TypeLigne::Intitule, ctx.etat.options, 1);
     EXPECT_EQ(l.definition, "entete:1:1ère année de prévision&Fin de prévision");
     EXPECT_EQ(l.formatTexte, "5006;10;1;0;1;0;0;0;l"); // italic values
-    EXPECT_EQ(GenreDeLigne(l), GenreLigne::Intitule);
-    AppliquerGenreLigne(l, GenreLigne::Espace, ctx.etat.options, 1);
+    EXPECT_EQ(TypeDeLigne(l), TypeLigne::Intitule);
+    AppliquerTypeLigne(l, TypeLigne::Espace, ctx.etat.options, 1);
     EXPECT_EQ(l.definition + "|" + l.formatTexte + "|" + l.formatCadre, "espace||0;0;0;0;8");
 
     // A table with crop series lines keeps its kind until they are gone.
@@ -153,7 +153,7 @@ TEST_F(EditeurTableauxTest, LesGenresDeLigneDonnentLeursValeursParDefaut) {
     EXPECT_FALSE(editeur.ChangerGenre(kTableauClassique));
     EXPECT_TRUE(utilisateur.ADit("Le tableau contient des séries de données pour les cultures"));
     EXPECT_TRUE(editeur.ChangerGenre(kTableauCulture));
-    editeur.Tableau()->Ligne(1)->definition = "saut2page";
+    editeur.Tableau()->Ligne(1)->definition = "newpg";
     EXPECT_FALSE(editeur.ChangerGenre(kTableauActiviteLibre));
     EXPECT_TRUE(utilisateur.ADit("Vous devez d'abord supprimer les sauts de page"));
 }

@@ -25,8 +25,8 @@ FrmTexte::FrmTexte(const Options& options, const LigneModele& ligne, int nbColon
     auto* formulaire = new QFormLayout(this);
     ComboGenre = new QComboBox(this);
     ComboGenre->setObjectName("ComboGenre");
-    for (const Texte& t : TextesGenresLigne()) ComboGenre->addItem(VersQString(t));
-    ComboGenre->setCurrentIndex(static_cast<int>(GenreDeLigne(ligne)));
+    for (const Texte& t : TextesTypesLigne()) ComboGenre->addItem(VersQString(t));
+    ComboGenre->setCurrentIndex(static_cast<int>(TypeDeLigne(ligne)));
     formulaire->addRow(VersQString("Type de ligne :"), ComboGenre);
     for (int c = 0; c < nbColonnes; ++c) {
         auto* b =
@@ -47,7 +47,7 @@ FrmTexte::FrmTexte(const Options& options, const LigneModele& ligne, int nbColon
     // A kind picked gives its defaults at once.
     connect(ComboGenre, &QComboBox::currentIndexChanged, this, [this](int genre) {
         LigneModele l = Ligne();
-        AppliquerGenreLigne(l, static_cast<GenreLigne>(genre), options_, nbColonnes_);
+        AppliquerTypeLigne(l, static_cast<TypeLigne>(genre), options_, nbColonnes_);
         for (std::size_t c = 0; c < txtLibelle.size(); ++c)
             txtLibelle[c]->setText(VersQString(l.cellules[c].texte));
         txtDefinition->setText(VersQString(l.definition));

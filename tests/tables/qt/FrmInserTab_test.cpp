@@ -51,16 +51,16 @@ TEST_F(FrmInserTabTest, UnTableauFaitDansLEditeurSInsereCommeIlEtaitMontre) {
     EditeurTableaux& e = forme.Editeur();
     ASSERT_TRUE(e.AjouterLigne(1));
     ASSERT_TRUE(e.AjouterLigne(2));
-    const auto definir = [&](int n, GenreLigne genre, const char* libelle, const char* def) {
+    const auto definir = [&](int n, TypeLigne genre, const char* libelle, const char* def) {
         FrmTexte dialogue(ctx.etat.options, *e.Tableau()->Ligne(n), 1, n);
         dialogue.ComboGenre->setCurrentIndex(static_cast<int>(genre));
         if (libelle) dialogue.txtLibelle[0]->setText(VersQString(libelle));
         if (def) dialogue.txtDefinition->setText(VersQString(def));
         *e.Tableau()->Ligne(n) = dialogue.Ligne();
     };
-    definir(1, GenreLigne::Intitule, "Années; exercices", nullptr);
-    definir(2, GenreLigne::Serie, "Lait vendu", "serie:VLVB.DON+VLVB-3:0:0");
-    definir(3, GenreLigne::Calcul, nullptr, "totalC:LG2*2:0:0");
+    definir(1, TypeLigne::Intitule, "Années; exercices", nullptr);
+    definir(2, TypeLigne::Serie, "Lait vendu", "serie:VLVB.DON+VLVB-3:0:0");
+    definir(3, TypeLigne::Calcul, nullptr, "totalC:LG2*2:0:0");
     EXPECT_EQ(e.Tableau()->Ligne(1)->cellules[0].texte, "Années, exercices");
     EXPECT_EQ(e.Tableau()->Ligne(3)->cellules[0].texte, "TOTAL");
     forme.txtNbColonnes->setValue(1);
