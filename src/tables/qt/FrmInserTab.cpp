@@ -364,7 +364,7 @@ void FrmInserTab::EditerLigne(int numero) {
     TableauModele* t = editeur_.Tableau();
     LigneModele* ligne = t ? t->Ligne(numero) : nullptr;
     if (ligne == nullptr) return;
-    FrmTexte dialogue(ctx_.etat.options, *ligne, t->ColonnesLibelle(), numero, this);
+    FrmTexte dialogue(ctx_, *t, numero, this);
     if (dialogue.exec() != QDialog::Accepted) return;
     *ligne = dialogue.Ligne();
     MontrerApercu();

@@ -52,7 +52,7 @@ TEST_F(FrmInserTabTest, UnTableauFaitDansLEditeurSInsereCommeIlEtaitMontre) {
     ASSERT_TRUE(e.AjouterLigne(1));
     ASSERT_TRUE(e.AjouterLigne(2));
     const auto definir = [&](int n, TypeLigne genre, const char* libelle, const char* def) {
-        FrmTexte dialogue(ctx.etat.options, *e.Tableau()->Ligne(n), 1, n);
+        FrmTexte dialogue(ctx, *e.Tableau(), n);
         dialogue.ComboGenre->setCurrentIndex(static_cast<int>(genre));
         if (libelle) dialogue.txtLibelle[0]->setText(VersQString(libelle));
         if (def) dialogue.txtDefinition->setText(VersQString(def));
