@@ -1,6 +1,7 @@
 #include "tables/qt/FenetresTableaux.h"
 
 #include "tables/qt/FrmInserTab.h"
+#include "tables/qt/FrmParamTab.h"
 
 #include <QGuiApplication>
 
@@ -13,6 +14,12 @@ void InscrireFenetresTableaux(Contexte& ctx) {
         return;
     ctx.formulaires.Inscrire("FrmInserTab", [](Contexte& c, const std::vector<Texte>& arguments) {
         FrmInserTab forme(c, arguments.empty() ? Texte{} : arguments[0]);
+        forme.setWindowFlag(Qt::WindowStaysOnTopHint);
+        forme.exec();
+        return 0;
+    });
+    ctx.formulaires.Inscrire("FrmParamTab", [](Contexte& c, const std::vector<Texte>&) {
+        FrmParamTab forme(c);
         forme.setWindowFlag(Qt::WindowStaysOnTopHint);
         forme.exec();
         return 0;

@@ -2,7 +2,13 @@
 
 #include "graphs/qt/RenduGraphique.h"
 #include "tables/ApercuTableau.h"
+#include "tables/DialoguesCellule.h"
 #include "tables/qt/FrmAddRmvL.h"
+#include "tables/qt/FrmDefCell.h"
+#include "tables/qt/FrmEnteteTab.h"
+#include "tables/qt/FrmLargeurTab.h"
+#include "tables/qt/FrmParamTab.h"
+#include "tables/qt/FrmTailleTab.h"
 #include "tables/qt/FrmTexte.h"
 #include "utils/Chaines.h"
 
@@ -116,6 +122,14 @@ FrmInserTab::FrmInserTab(Contexte& ctx, const Texte& code, QWidget* parent)
     auto* lignes = new QHBoxLayout;
     for (QPushButton* b : {cmdAjouter, cmdSupprLigne, cmdDeplacer, cmdDupliquer, cmdTexte})
         lignes->addWidget(b);
+    cmdCellule = Bouton(this, "cmdCellule", "Cadres et fond");
+    cmdTaille = Bouton(this, "cmdTaille", "Taille de la ligne");
+    cmdLargeur = Bouton(this, "cmdLargeur", "Largeur de colonne");
+    cmdEntete = Bouton(this, "cmdEntete", "En-tête des répétitions");
+    cmdParametres = Bouton(this, "cmdParametres", "Paramètres par défaut");
+    auto* cellules = new QHBoxLayout;
+    for (QPushButton* b : {cmdCellule, cmdTaille, cmdLargeur, cmdEntete, cmdParametres})
+        cellules->addWidget(b);
 
     CheckSauvegarde = new QCheckBox(VersQString("Sauvegarde automatique toutes les"), this);
     CheckSauvegarde->setObjectName("CheckSauvegarde");
@@ -141,6 +155,7 @@ FrmInserTab::FrmInserTab(Contexte& ctx, const Texte& code, QWidget* parent)
     droite->addWidget(new QLabel(VersQString("Aperçu du tableau :"), this));
     droite->addWidget(GrilleApercu, 1);
     droite->addLayout(lignes);
+    droite->addLayout(cellules);
     auto* milieu = new QHBoxLayout;
     milieu->addLayout(gauche);
     milieu->addLayout(droite, 1);
@@ -158,6 +173,11 @@ FrmInserTab::FrmInserTab(Contexte& ctx, const Texte& code, QWidget* parent)
     connect(GrilleApercu, &QTableWidget::cellDoubleClicked, this,
             [this](int rangee) { EditerLigne(rangee + 1); });
     connect(cmdInserer, &QPushButton::clicked, this, [this] { Inserer(); });
+    connect(cmdCellule, &QPushButton::clicked, this, [this] { DefinirCellule(); });
+    connect(cmdTaille, &QPushButton::clicked, this, [this] { DefinirTaille(); });
+    connect(cmdLargeur, &QPushButton::clicked, this, [this] { DefinirLargeur(); });
+    connect(cmdEntete, &QPushButton::clicked, this, [this] { DefinirEntete(); });
+    connect(cmdParametres, &QPushButton::clicked, this, [this] { Parametres(); });
     connect(cmdAnnuler, &QPushButton::clicked, this, [this] { Annuler(); });
     connect(TreeViewTab, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) {
         if (chargement_ || item == nullptr) return;
@@ -368,6 +388,66 @@ void FrmInserTab::EditerLigne(int numero) {
     if (dialogue.exec() != QDialog::Accepted) return;
     *ligne = dialogue.Ligne();
     MontrerApercu();
+}
+
+int FrmInserTab::ColonneSelectionnee() {
+    const TableauModele* t = editeur_.Tableau();
+    const int colonne = GrilleApercu->currentColumn();
+    return t && colonne >= 0 && colonne < t->ColonnesLibelle() ? colonne + 1 : 0;
+}
+
+void FrmInserTab::DefinirCellule() {
+    TableauModele* t = editeur_.Tableau();
+    const int numero = LigneSelectionnee();
+    const LigneModele* ligne = t ? t->Ligne(numero) : nullptr;
+    const int colonne = ColonneSelectionnee();
+    Cadre cadre;
+    if (ligne)
+        cadre = LireCadre(colonne == 0
+                              ? ligne->formatCadre
+                              : ligne->cellules[static_cast<std::size_t>(colonne - 1)].formatCadre);
+    FrmDefCell dialogue(cadre, this);
+    if (dialogue.exec() != QDialog::Accepted) return;
+    if (AppliquerCadre(ctx_, t, numero, colonne, dialogue.Valeur(), dialogue.ToutLaLigne()))
+        MontrerApercu();
+}
+
+void FrmInserTab::DefinirTaille() {
+    LigneModele* ligne =
+        editeur_.Tableau() ? editeur_.Tableau()->Ligne(LigneSelectionnee()) : nullptr;
+    if (ligne == nullptr || !TailleModifiable(ctx_, *ligne)) return;
+    FrmTailleTab dialogue(ligne->hauteur, ligne->retrait, this);
+    if (dialogue.exec() != QDialog::Accepted) return;
+    if (const auto h = dialogue.Hauteur()) ligne->hauteur = *h;
+    if (const auto r = dialogue.Retrait()) ligne->retrait = *r;
+    MontrerApercu();
+}
+
+void FrmInserTab::DefinirLargeur() {
+    TableauModele* t = editeur_.Tableau();
+    if (t == nullptr) return;
+    const int colonne = ColonneSelectionnee();
+    std::int16_t& largeur =
+        colonne == 0 ? t->largeurValeurs : t->largeurs[static_cast<std::size_t>(colonne - 1)];
+    FrmLargeurTab dialogue(colonne, t->ColonnesLibelle(), largeur, this);
+    if (dialogue.exec() != QDialog::Accepted) return;
+    largeur = static_cast<std::int16_t>(dialogue.Largeur());
+    MontrerTableau();
+}
+
+void FrmInserTab::DefinirEntete() {
+    TableauModele* t = editeur_.Tableau();
+    if (t == nullptr) return;
+    FrmEnteteTab dialogue(t->typeEntete, t->pageDebut, ctx_.etat.chemins.RepImages, this);
+    if (dialogue.exec() != QDialog::Accepted) return;
+    t->typeEntete = dialogue.TypeEntete();
+    t->pageDebut = dialogue.PageDebut();
+    MontrerTableau();
+}
+
+void FrmInserTab::Parametres() {
+    FrmParamTab dialogue(ctx_, this);
+    dialogue.exec();
 }
 
 void FrmInserTab::Inserer() {

@@ -32,6 +32,13 @@ public:
     void Supprimer();
     void OperationLigne(char mode);
     void EditerLigne(int numero);
+    // The cell, size, width and header dialogs on the preview's current cell and line, and
+    // the table defaults.
+    void DefinirCellule();
+    void DefinirTaille();
+    void DefinirLargeur();
+    void DefinirEntete();
+    void Parametres();
     void Inserer();
     void Annuler();
 
@@ -50,6 +57,7 @@ public:
     QComboBox* ComboPeriode;
     QPushButton *cmdNouveau, *cmdSupprimer, *cmdAjouter, *cmdSupprLigne, *cmdDeplacer,
         *cmdDupliquer, *cmdTexte, *cmdInserer, *cmdAnnuler;
+    QPushButton *cmdCellule, *cmdTaille, *cmdLargeur, *cmdEntete, *cmdParametres;
 
 protected:
     void reject() override;
@@ -61,6 +69,8 @@ private:
     void SauverProprietes();
     void ProgrammerSauvegarde();
     int LigneSelectionnee() const;
+    // The label column (1..9) of the preview's current column, 0 for the value columns.
+    int ColonneSelectionnee();
 
     Contexte& ctx_;
     EditeurTableaux editeur_;

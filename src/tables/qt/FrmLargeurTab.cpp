@@ -1,0 +1,44 @@
+#include "tables/qt/FrmLargeurTab.h"
+
+#include "graphs/qt/RenduGraphique.h"
+#include "tables/DialoguesCellule.h"
+
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QSpinBox>
+#include <QVBoxLayout>
+
+namespace verdane::qt {
+
+FrmLargeurTab::FrmLargeurTab(int colonne, int nbColonnes, int largeur, QWidget* parent)
+    : QDialog(parent) {
+    setObjectName("FrmLargeurTab");
+    setWindowTitle(VersQString("Largeur des colonnes"));
+    auto* tout = new QVBoxLayout(this);
+    auto* question = new QLabel(VersQString(QuestionLargeur(colonne, nbColonnes)), this);
+    question->setObjectName("lblQuestion");
+    tout->addWidget(question);
+    txtLargeur = new QSpinBox(this);
+    txtLargeur->setObjectName("txtLargeur");
+    txtLargeur->setRange(100, 30000);
+    txtLargeur->setSingleStep(100);
+    txtLargeur->setSuffix(" twips");
+    txtLargeur->setValue(largeur);
+    tout->addWidget(txtLargeur);
+    if (colonne <= 0) {
+        auto* aide = new QLabel(VersQString(AideLargeurValeurs()), this);
+        aide->setObjectName("lblAide");
+        aide->setWordWrap(true);
+        tout->addWidget(aide);
+    }
+    auto* boutons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+    tout->addWidget(boutons);
+    connect(boutons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(boutons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+}
+
+int FrmLargeurTab::Largeur() const {
+    return txtLargeur->value();
+}
+
+} // namespace verdane::qt
