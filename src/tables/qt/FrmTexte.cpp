@@ -57,6 +57,8 @@ void AjouterCatalogue(QTreeWidgetItem* parent, const NoeudCatalogue& noeud) {
 }
 
 QWidget* NouvellePage(QStackedWidget* pile, QLayout*& disposition) {
+    // The page before keeps its widgets at the top.
+    if (auto* avant = qobject_cast<QVBoxLayout*>(disposition)) avant->addStretch(1);
     auto* page = new QWidget(pile);
     disposition = new QVBoxLayout(page);
     pile->addWidget(page);
@@ -203,6 +205,7 @@ FrmTexte::FrmTexte(Contexte& ctx, const TableauModele& tableau, int numero, QWid
     d->addWidget(new QLabel(VersQString("Clé de la valeur :"), this));
     d->addWidget(txtCle);
 
+    static_cast<QVBoxLayout*>(d)->addStretch(1);
     auto* communs = new QFormLayout;
     ComboDecimales = new QComboBox(this);
     ComboDecimales->setObjectName("ComboDecimales");
@@ -266,6 +269,7 @@ FrmTexte::FrmTexte(Contexte& ctx, const TableauModele& tableau, int numero, QWid
     });
 
     Relire(ligne_.definition);
+    MontrerExemple();
     MontrerPage();
     DefinitionPermise(ctx_, tableau_, ligne_, Type());
     resize(560, 620);
@@ -317,7 +321,17 @@ void FrmTexte::Relire(const Texte& definition) {
     chargement_ = false;
 }
 
+void FrmTexte::MontrerExemple() {
+    const auto& formes = FormesEntete(tableau_.multiDossier != 0);
+    const int i = ComboFormeEntete->currentIndex();
+    lblExemple->setText(
+        i >= 0 && i < static_cast<int>(formes.size())
+            ? VersQString("Exemple : " + formes[static_cast<std::size_t>(i)].exemple)
+            : QString());
+}
+
 void FrmTexte::Composer() {
+    MontrerExemple();
     if (chargement_) return;
     const TypeLigne type = Type();
     DefinitionValeurs v;
@@ -333,12 +347,6 @@ void FrmTexte::Composer() {
             e.debut = avant.debut;
             e.fin = avant.fin;
         }
-        const auto& formes = FormesEntete(tableau_.multiDossier != 0);
-        const int i = ComboFormeEntete->currentIndex();
-        lblExemple->setText(
-            i >= 0 && i < static_cast<int>(formes.size())
-                ? VersQString("Exemple : " + formes[static_cast<std::size_t>(i)].exemple)
-                : QString());
         definition = EcrireEntete(e);
         break;
     }

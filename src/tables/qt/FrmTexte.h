@@ -54,6 +54,7 @@ public:
 
 private:
     void MontrerPage();
+    void MontrerExemple();
     void Relire(const Texte& definition);
     TypeLigne Type() const;
 
