@@ -2,6 +2,7 @@
 
 #include "graphs/qt/RenduGraphique.h"
 #include "tables/DialoguesCellule.h"
+#include "tables/qt/OutilsDialogues.h"
 #include "utils/OutilsFichiers.h"
 
 #include <QComboBox>
@@ -55,10 +56,7 @@ FrmEnteteTab::FrmEnteteTab(std::int16_t typeEntete, std::int16_t pageDebut,
                             this);
     aide->setWordWrap(true);
     tout->addWidget(aide);
-    auto* boutons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    tout->addWidget(boutons);
-    connect(boutons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(boutons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    tout->addWidget(BoutonsOkAnnuler(this));
     Choisir(typeEntete);
 }
 

@@ -2,6 +2,7 @@
 
 #include "graphs/qt/RenduGraphique.h"
 #include "tables/DialoguesCellule.h"
+#include "tables/qt/OutilsDialogues.h"
 
 #include <QDialogButtonBox>
 #include <QLabel>
@@ -31,10 +32,7 @@ FrmLargeurTab::FrmLargeurTab(int colonne, int nbColonnes, int largeur, QWidget* 
         aide->setWordWrap(true);
         tout->addWidget(aide);
     }
-    auto* boutons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    tout->addWidget(boutons);
-    connect(boutons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(boutons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    tout->addWidget(BoutonsOkAnnuler(this));
 }
 
 int FrmLargeurTab::Largeur() const {

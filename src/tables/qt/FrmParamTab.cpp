@@ -3,6 +3,7 @@
 #include "graphs/qt/RenduGraphique.h"
 #include "tables/DialoguesCellule.h"
 #include "tables/qt/FrmDefCell.h"
+#include "tables/qt/OutilsDialogues.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -16,10 +17,6 @@ namespace verdane::qt {
 namespace {
 
 constexpr int kTailles[] = {8, 9, 10, 11, 12, 14, 16, 18, 20, 22, 24, 26, 28, 36, 48, 72};
-
-Texte DepuisQString(const QString& s) {
-    return Utf8VersCp1252(s.toStdString());
-}
 
 } // namespace
 

@@ -2,6 +2,7 @@
 
 #include "graphs/qt/RenduGraphique.h"
 #include "tables/DialoguesCellule.h"
+#include "tables/qt/OutilsDialogues.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -21,10 +22,6 @@ QComboBox* Liste(QWidget* parent, const char* nom, const std::vector<Texte>& tex
     return c;
 }
 
-Texte DepuisQString(const QString& s) {
-    return Utf8VersCp1252(s.toStdString());
-}
-
 } // namespace
 
 FrmTailleTab::FrmTailleTab(int hauteur, int retrait, QWidget* parent) : QDialog(parent) {
@@ -35,10 +32,7 @@ FrmTailleTab::FrmTailleTab(int hauteur, int retrait, QWidget* parent) : QDialog(
     ComboRetrait = Liste(this, "ComboRetrait", RetraitsProposes(), std::to_string(retrait));
     formulaire->addRow(VersQString("Hauteur de la ligne :"), ComboHauteur);
     formulaire->addRow(VersQString("Retrait dans les cellules :"), ComboRetrait);
-    auto* boutons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    formulaire->addRow(boutons);
-    connect(boutons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(boutons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    formulaire->addRow(BoutonsOkAnnuler(this));
 }
 
 std::optional<std::int16_t> FrmTailleTab::Hauteur() const {

@@ -4,6 +4,7 @@
 #include "graphs/qt/RenduGraphique.h"
 #include "tables/DialoguesLigne.h"
 #include "tables/Formules.h"
+#include "tables/qt/OutilsDialogues.h"
 #include "utils/Chaines.h"
 
 #include <QComboBox>
@@ -25,10 +26,6 @@ namespace {
 
 constexpr int kRoleCle = Qt::UserRole;
 enum Page { kPageEntete, kPageSerie, kPageEspace, kPageTotal, kPagePredefinies, kPageRepetee };
-
-Texte DepuisQString(const QString& s) {
-    return Utf8VersCp1252(s.toStdString());
-}
 
 Page PageDuType(TypeLigne type) {
     switch (type) {
