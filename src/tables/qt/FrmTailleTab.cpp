@@ -1,0 +1,49 @@
+#include "tables/qt/FrmTailleTab.h"
+
+#include "graphs/qt/RenduGraphique.h"
+#include "tables/DialoguesCellule.h"
+#include "tables/qt/OutilsDialogues.h"
+
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QFormLayout>
+
+namespace verdane::qt {
+
+namespace {
+
+QComboBox* Liste(QWidget* parent, const char* nom, const std::vector<Texte>& textes,
+                 const Texte& courant) {
+    auto* c = new QComboBox(parent);
+    c->setObjectName(nom);
+    c->setEditable(true);
+    for (const Texte& t : textes) c->addItem(VersQString(t));
+    c->setCurrentText(VersQString(courant));
+    return c;
+}
+
+} // namespace
+
+FrmTailleTab::FrmTailleTab(int hauteur, int retrait, QWidget* parent) : QDialog(parent) {
+    setObjectName("FrmTailleTab");
+    setWindowTitle(VersQString("Taille de la ligne"));
+    auto* formulaire = new QFormLayout(this);
+    ComboHauteur = Liste(this, "ComboHauteur", HauteursProposees(), TexteHauteur(hauteur));
+    ComboRetrait = Liste(this, "ComboRetrait", RetraitsProposes(), std::to_string(retrait));
+    formulaire->addRow(VersQString("Hauteur de la ligne :"), ComboHauteur);
+    formulaire->addRow(VersQString("Retrait dans les cellules :"), ComboRetrait);
+    formulaire->addRow(BoutonsOkAnnuler(this));
+}
+
+std::optional<std::int16_t> FrmTailleTab::Hauteur() const {
+    return HauteurDeTexte(DepuisQString(ComboHauteur->currentText()));
+}
+
+std::optional<std::int16_t> FrmTailleTab::Retrait() const {
+    const auto r = HauteurDeTexte(DepuisQString(ComboRetrait->currentText()));
+    // "AUTO" means nothing for a gap.
+    if (r && *r == 0 && ComboRetrait->currentText().trimmed() != "0") return std::nullopt;
+    return r;
+}
+
+} // namespace verdane::qt

@@ -1,0 +1,409 @@
+#include "tables/qt/FrmTexte.h"
+
+#include "data/SeriesProposees.h"
+#include "graphs/qt/RenduGraphique.h"
+#include "tables/DialoguesLigne.h"
+#include "tables/Formules.h"
+#include "tables/qt/OutilsDialogues.h"
+#include "utils/Chaines.h"
+
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QTabWidget>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+#include <map>
+
+namespace verdane::qt {
+
+namespace {
+
+constexpr int kRoleCle = Qt::UserRole;
+enum Page { kPageEntete, kPageSerie, kPageEspace, kPageTotal, kPagePredefinies, kPageRepetee };
+
+Page PageDuType(TypeLigne type) {
+    switch (type) {
+    case TypeLigne::Intitule:
+        return kPageEntete;
+    case TypeLigne::Serie:
+        return kPageSerie;
+    case TypeLigne::Espace:
+        return kPageEspace;
+    case TypeLigne::Calcul:
+        return kPageTotal;
+    case TypeLigne::Predefinies:
+        return kPagePredefinies;
+    default:
+        return kPageRepetee;
+    }
+}
+
+void AjouterCatalogue(QTreeWidgetItem* parent, const NoeudCatalogue& noeud) {
+    for (const NoeudCatalogue& n : noeud.enfants) {
+        auto* item = new QTreeWidgetItem(parent);
+        item->setText(0, VersQString(n.texte));
+        item->setData(0, kRoleCle, VersQString(n.cle));
+        AjouterCatalogue(item, n);
+    }
+}
+
+QWidget* NouvellePage(QStackedWidget* pile, QLayout*& disposition) {
+    // The page before keeps its widgets at the top.
+    if (auto* avant = qobject_cast<QVBoxLayout*>(disposition)) avant->addStretch(1);
+    auto* page = new QWidget(pile);
+    disposition = new QVBoxLayout(page);
+    pile->addWidget(page);
+    return page;
+}
+
+} // namespace
+
+FrmTexte::FrmTexte(Contexte& ctx, const TableauModele& tableau, int numero, QWidget* parent)
+    : QDialog(parent), ctx_(ctx), tableau_(tableau), numero_(numero) {
+    if (const LigneModele* l = tableau.Ligne(numero)) ligne_ = *l;
+    setObjectName("FrmTexte");
+    setWindowTitle(VersQString("Définition de la ligne n°" + std::to_string(numero)));
+    auto* tout = new QVBoxLayout(this);
+    auto* formulaire = new QFormLayout;
+    tout->addLayout(formulaire);
+    ComboGenre = new QComboBox(this);
+    ComboGenre->setObjectName("ComboGenre");
+    for (const Texte& t : TextesTypesLigne()) ComboGenre->addItem(VersQString(t));
+    ComboGenre->setCurrentIndex(static_cast<int>(TypeDeLigne(ligne_)));
+    formulaire->addRow(VersQString("Type de ligne :"), ComboGenre);
+    for (int c = 0; c < tableau.ColonnesLibelle(); ++c) {
+        auto* b =
+            new QLineEdit(VersQString(ligne_.cellules[static_cast<std::size_t>(c)].texte), this);
+        b->setObjectName(QStringLiteral("txtLibelle%1").arg(c + 1));
+        // A line end can't stand in a cell's text.
+        connect(b, &QLineEdit::returnPressed, this, [this] {
+            ctx_.utilisateur.Boite(
+                "Touche <Entrée> incorrecte.\r\nLes sauts à la ligne seront supprimés à "
+                "l'insertion.\r\nDans le cas d'un commentaire, pour résoudre le problème, insérer "
+                "plusieurs lignes de commentaire dans le tableau.",
+                "Edition - Insertion des Tableaux", Icone::Information);
+        });
+        txtLibelle.push_back(b);
+        formulaire->addRow(VersQString("Libellé " + std::to_string(c + 1) + " :"), b);
+    }
+
+    lblTitre = new QLabel(this);
+    lblTitre->setObjectName("lblTitre");
+    QFont gras = lblTitre->font();
+    gras.setBold(true);
+    lblTitre->setFont(gras);
+    tout->addWidget(lblTitre);
+    PagesValeurs = new QStackedWidget(this);
+    PagesValeurs->setObjectName("PagesValeurs");
+    tout->addWidget(PagesValeurs, 1);
+    QLayout* d = nullptr;
+
+    // Header: the forms of the table's mode, with a sample, and the pair of year mode 2.
+    NouvellePage(PagesValeurs, d);
+    ComboFormeEntete = new QComboBox(this);
+    ComboFormeEntete->setObjectName("ComboFormeEntete");
+    for (const FormeEntete& f : FormesEntete(tableau.multiDossier != 0))
+        ComboFormeEntete->addItem(VersQString(f.libelle), VersQString(f.forme));
+    lblExemple = new QLabel(this);
+    lblExemple->setObjectName("lblExemple");
+    txtDebut = new QLineEdit(this);
+    txtDebut->setObjectName("txtDebut");
+    txtFin = new QLineEdit(this);
+    txtFin->setObjectName("txtFin");
+    const bool paire = tableau.modeAnnees == kPremiereEtDerniere;
+    txtDebut->setEnabled(paire);
+    txtFin->setEnabled(paire);
+    d->addWidget(ComboFormeEntete);
+    d->addWidget(lblExemple);
+    d->addWidget(new QLabel(VersQString("Début/Fin prévision :"), this));
+    d->addWidget(txtDebut);
+    d->addWidget(txtFin);
+
+    // Series of the catalogues.
+    NouvellePage(PagesValeurs, d);
+    TreeViewSeries = new QTreeWidget(this);
+    TreeViewSeries->setObjectName("TreeViewSeries");
+    TreeViewSeries->setHeaderHidden(true);
+    const ArbreCatalogue series = SeriesProposees(ctx.etat.chemins.RepDatacfg);
+    auto* racine = new QTreeWidgetItem(TreeViewSeries);
+    racine->setText(0, VersQString(series.racine.texte));
+    AjouterCatalogue(racine, series.racine);
+    racine->setExpanded(true);
+    d->addWidget(TreeViewSeries);
+
+    // Spacing: nothing to define.
+    NouvellePage(PagesValeurs, d);
+    auto* espace = new QLabel(VersQString("Pour insérer un commentaire dans cet espace et lui "
+                                          "affecter une mise en forme, cliquez l'autre bouton à "
+                                          "gauche sur la ligne."),
+                              this);
+    espace->setWordWrap(true);
+    d->addWidget(espace);
+
+    // Totals: two lines above and an operator, or a free formula.
+    NouvellePage(PagesValeurs, d);
+    OngletsTotal = new QTabWidget(this);
+    OngletsTotal->setObjectName("OngletsTotal");
+    auto* simple = new QWidget(OngletsTotal);
+    auto* ds = new QHBoxLayout(simple);
+    ComboLigneA = new QComboBox(simple);
+    ComboLigneA->setObjectName("ComboLigneA");
+    ComboOperateur = new QComboBox(simple);
+    ComboOperateur->setObjectName("ComboOperateur");
+    for (const char* op : kOperateursTotal) ComboOperateur->addItem(op);
+    ComboLigneB = new QComboBox(simple);
+    ComboLigneB->setObjectName("ComboLigneB");
+    for (int n = 1; n < numero; ++n)
+        for (QComboBox* c : {ComboLigneA, ComboLigneB})
+            c->addItem(QStringLiteral("LG%1").arg(n), n);
+    ds->addWidget(ComboLigneA);
+    ds->addWidget(ComboOperateur);
+    ds->addWidget(ComboLigneB);
+    OngletsTotal->addTab(simple, VersQString("Simple"));
+    auto* libre = new QWidget(OngletsTotal);
+    auto* dl = new QVBoxLayout(libre);
+    txtFormule = new QLineEdit(libre);
+    txtFormule->setObjectName("txtFormule");
+    auto* cmdClair = new QPushButton(VersQString("Formule en clair"), libre);
+    cmdClair->setObjectName("cmdFormuleClair");
+    cmdClair->setAutoDefault(false);
+    dl->addWidget(txtFormule);
+    dl->addWidget(cmdClair);
+    OngletsTotal->addTab(libre, VersQString("Formule"));
+    d->addWidget(OngletsTotal);
+
+    // Pre-defined lines.
+    NouvellePage(PagesValeurs, d);
+    d->addWidget(new QLabel(VersQString("Choisissez un type de lignes :"), this));
+    TreeViewPredefinies = new QTreeWidget(this);
+    TreeViewPredefinies->setObjectName("TreeViewPredefinies");
+    TreeViewPredefinies->setHeaderHidden(true);
+    std::map<Texte, QTreeWidgetItem*> items;
+    for (const NoeudTableau& n : CataloguePredefinies()) {
+        auto* item = n.parent.empty() ? new QTreeWidgetItem(TreeViewPredefinies)
+                                      : new QTreeWidgetItem(items[n.parent]);
+        item->setText(0, VersQString(n.texte));
+        item->setData(0, kRoleCle, VersQString(n.cle));
+        items[n.cle] = item;
+    }
+    TreeViewPredefinies->expandAll();
+    d->addWidget(TreeViewPredefinies);
+
+    // Value of the crop or activity of a repeated table, by its key.
+    NouvellePage(PagesValeurs, d);
+    txtCle = new QLineEdit(this);
+    txtCle->setObjectName("txtCle");
+    d->addWidget(new QLabel(VersQString("Clé de la valeur :"), this));
+    d->addWidget(txtCle);
+
+    static_cast<QVBoxLayout*>(d)->addStretch(1);
+    auto* communs = new QFormLayout;
+    ComboDecimales = new QComboBox(this);
+    ComboDecimales->setObjectName("ComboDecimales");
+    for (const Texte& t : TextesDecimales()) ComboDecimales->addItem(VersQString(t));
+    ComboRegleZero = new QComboBox(this);
+    ComboRegleZero->setObjectName("ComboRegleZero");
+    for (const Texte& t : TextesReglesZero()) ComboRegleZero->addItem(VersQString(t));
+    communs->addRow(VersQString("Décimales :"), ComboDecimales);
+    communs->addRow(VersQString("Valeurs nulles :"), ComboRegleZero);
+    txtDefinition = new QLineEdit(VersQString(ligne_.definition), this);
+    txtDefinition->setObjectName("txtDefinition");
+    communs->addRow(VersQString("Définition des valeurs :"), txtDefinition);
+    tout->addLayout(communs);
+
+    auto* boutons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+    for (QAbstractButton* b : boutons->buttons())
+        if (auto* p = qobject_cast<QPushButton*>(b)) p->setAutoDefault(false);
+    tout->addWidget(boutons);
+    connect(boutons, &QDialogButtonBox::accepted, this, &FrmTexte::accept);
+    connect(boutons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+
+    // A kind picked gives its defaults at once.
+    connect(ComboGenre, &QComboBox::currentIndexChanged, this, [this](int genre) {
+        if (chargement_ || genre < 0) return;
+        LigneModele l = Ligne();
+        AppliquerTypeLigne(l, static_cast<TypeLigne>(genre), ctx_.etat.options,
+                           tableau_.ColonnesLibelle());
+        for (std::size_t c = 0; c < txtLibelle.size(); ++c)
+            txtLibelle[c]->setText(VersQString(l.cellules[c].texte));
+        ligne_ = l;
+        Relire(l.definition);
+        txtDefinition->setText(VersQString(l.definition));
+        MontrerPage();
+    });
+    connect(ComboFormeEntete, &QComboBox::currentIndexChanged, this, [this] { Composer(); });
+    for (QLineEdit* e : {txtDebut, txtFin, txtCle, txtFormule})
+        connect(e, &QLineEdit::textEdited, this, [this] { Composer(); });
+    for (QComboBox* c : {ComboLigneA, ComboOperateur, ComboLigneB, ComboDecimales, ComboRegleZero})
+        connect(c, &QComboBox::currentIndexChanged, this, [this] { Composer(); });
+    connect(OngletsTotal, &QTabWidget::currentChanged, this, [this] { Composer(); });
+    connect(TreeViewSeries, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) {
+        if (item == nullptr || !item->data(0, kRoleCle).toString().contains('+')) return;
+        libelleSerie_ = DepuisQString(item->text(0));
+        Composer();
+    });
+    connect(TreeViewPredefinies, &QTreeWidget::currentItemChanged, this, [this] { Composer(); });
+    connect(cmdClair, &QPushButton::clicked, this, [this] {
+        TableauFormule t;
+        t.modeAnnees = tableau_.modeAnnees;
+        t.libelleLigne = [this](int n) {
+            const LigneModele* l = tableau_.Ligne(n);
+            if (l == nullptr) return Texte{};
+            for (int c = 0; c < 3; ++c)
+                if (!Rogner(l->cellules[static_cast<std::size_t>(c)].texte).empty())
+                    return l->cellules[static_cast<std::size_t>(c)].texte;
+            return Texte{};
+        };
+        const Texte clair = SubstituerFormule(
+            ctx_, FormuleStockee(DepuisQString(txtFormule->text())), kColonneLibelles, t);
+        ctx_.utilisateur.Boite(clair, "Formule en clair :", Icone::Information);
+    });
+
+    Relire(ligne_.definition);
+    MontrerExemple();
+    MontrerPage();
+    DefinitionPermise(ctx_, tableau_, ligne_, Type());
+    resize(560, 620);
+}
+
+TypeLigne FrmTexte::Type() const {
+    return static_cast<TypeLigne>(std::max(0, ComboGenre->currentIndex()));
+}
+
+void FrmTexte::MontrerPage() {
+    const TypeLigne type = Type();
+    const Page page = PageDuType(type);
+    PagesValeurs->setCurrentIndex(page);
+    static const char* const titres[] = {
+        "Définition d'une ligne d'intitulé", "Définition d'une ligne de valeurs Marlo", "",
+        "Définition d'une ligne de totaux",  "Définition d'un ensemble de lignes",      ""};
+    Texte titre = titres[page];
+    if (page == kPageRepetee)
+        titre = "Définition d'une ligne de valeurs pour les " + TitreSerieRepetee(type);
+    lblTitre->setText(VersQString(titre));
+    const bool valeurs = page == kPageSerie || page == kPageTotal || page == kPageRepetee;
+    ComboDecimales->setEnabled(valeurs);
+    ComboRegleZero->setEnabled(valeurs);
+    PagesValeurs->setEnabled(tableau_.modeAnnees != kSansValeurs);
+}
+
+void FrmTexte::Relire(const Texte& definition) {
+    chargement_ = true;
+    const DefinitionEntete e = LireEntete(definition);
+    const int forme = ComboFormeEntete->findData(VersQString(e.forme));
+    ComboFormeEntete->setCurrentIndex(std::max(0, forme));
+    txtDebut->setText(VersQString(e.debut));
+    txtFin->setText(VersQString(e.fin));
+    const DefinitionValeurs v = LireValeurs(definition);
+    ComboDecimales->setCurrentIndex(ChoixDeDecimales(v.decimales));
+    ComboRegleZero->setCurrentIndex(v.regleZero);
+    txtCle->setText(VersQString(v.code));
+    int a = 0, b = 0;
+    Texte op;
+    if (v.mot == "totalS" && LireFormuleSimple(v.code, a, op, b)) {
+        ComboLigneA->setCurrentIndex(ComboLigneA->findData(a));
+        ComboOperateur->setCurrentText(VersQString(op));
+        ComboLigneB->setCurrentIndex(ComboLigneB->findData(b));
+        OngletsTotal->setCurrentIndex(0);
+    } else if (v.mot == "totalC") {
+        txtFormule->setText(VersQString(v.code));
+        OngletsTotal->setCurrentIndex(1);
+    }
+    chargement_ = false;
+}
+
+void FrmTexte::MontrerExemple() {
+    const auto& formes = FormesEntete(tableau_.multiDossier != 0);
+    const int i = ComboFormeEntete->currentIndex();
+    lblExemple->setText(
+        i >= 0 && i < static_cast<int>(formes.size())
+            ? VersQString("Exemple : " + formes[static_cast<std::size_t>(i)].exemple)
+            : QString());
+}
+
+void FrmTexte::Composer() {
+    MontrerExemple();
+    if (chargement_) return;
+    const TypeLigne type = Type();
+    DefinitionValeurs v;
+    v.decimales = DecimalesDeChoix(ComboDecimales->currentIndex());
+    v.regleZero = std::max(0, ComboRegleZero->currentIndex());
+    Texte definition = DepuisQString(txtDefinition->text());
+    switch (PageDuType(type)) {
+    case kPageEntete: {
+        const DefinitionEntete avant = LireEntete(definition);
+        DefinitionEntete e{DepuisQString(ComboFormeEntete->currentData().toString()),
+                           DepuisQString(txtDebut->text()), DepuisQString(txtFin->text())};
+        if (tableau_.modeAnnees != kPremiereEtDerniere) {
+            e.debut = avant.debut;
+            e.fin = avant.fin;
+        }
+        definition = EcrireEntete(e);
+        break;
+    }
+    case kPageSerie:
+        if (QTreeWidgetItem* item = TreeViewSeries->currentItem();
+            item && item->data(0, kRoleCle).toString().contains('+')) {
+            v.mot = "serie";
+            v.code = DepuisQString(item->data(0, kRoleCle).toString());
+            definition = EcrireValeurs(v);
+        }
+        break;
+    case kPageTotal:
+        if (OngletsTotal->currentIndex() == 0) {
+            if (ComboLigneA->count() == 0) break;
+            v.mot = "totalS";
+            v.code = FormuleSimple(ComboLigneA->currentData().toInt(),
+                                   DepuisQString(ComboOperateur->currentText()),
+                                   ComboLigneB->currentData().toInt());
+        } else {
+            v.mot = "totalC";
+            v.code = FormuleStockee(DepuisQString(txtFormule->text()));
+        }
+        definition = EcrireValeurs(v);
+        break;
+    case kPagePredefinies:
+        if (QTreeWidgetItem* item = TreeViewPredefinies->currentItem()) {
+            const Texte cle = DepuisQString(item->data(0, kRoleCle).toString());
+            if (cle != "Racine" && !FinitPar(cle, "#")) definition = cle;
+        }
+        break;
+    case kPageRepetee:
+        v.mot = MotSerieRepetee(type);
+        v.code = DepuisQString(txtCle->text());
+        definition = EcrireValeurs(v);
+        break;
+    case kPageEspace:
+        break;
+    }
+    txtDefinition->setText(VersQString(definition));
+}
+
+void FrmTexte::accept() {
+    const TypeLigne type = Type();
+    const Texte definition = DepuisQString(txtDefinition->text());
+    const DefinitionValeurs v = LireValeurs(definition);
+    if (PageDuType(type) == kPageTotal && v.mot == "totalC" &&
+        !VerifierFormule(ctx_, v.code, [this](int n) { return n >= 1 && n < numero_; }))
+        return;
+    if (PageDuType(type) == kPageSerie && !libelleSerie_.empty() && !txtLibelle.empty() &&
+        RemplacerLibelle(ctx_, DepuisQString(txtLibelle[0]->text()), libelleSerie_))
+        txtLibelle[0]->setText(VersQString(libelleSerie_));
+    QDialog::accept();
+}
+
+LigneModele FrmTexte::Ligne() const {
+    LigneModele l = ligne_;
+    for (std::size_t c = 0; c < txtLibelle.size(); ++c)
+        l.cellules[c].texte = TexteDeLibelle(DepuisQString(txtLibelle[c]->text()));
+    l.definition = DepuisQString(txtDefinition->text());
+    return l;
+}
+
+} // namespace verdane::qt
