@@ -33,7 +33,9 @@ format_reel() {
 }
 restes() {
     if pgrep -f -- "$TMPDIR/" >/dev/null; then echec "$1 : un LibreOffice tourne encore"; fi
-    if [ -n "$(ls -A "$TMPDIR")" ]; then echec "$1 : restes dans le temporaire : $(ls -A "$TMPDIR")"; fi
+    local restes
+    restes=$(find "$TMPDIR" -mindepth 1 -maxdepth 1 -name 'verdane-office-*' -o -name 'lu*.tmp')
+    if [ -n "$restes" ]; then echec "$1 : restes dans le temporaire : $restes"; fi
     if [ -n "$(find "$travail/docs" -name '.~lock.*')" ]; then echec "$1 : verrou laissé"; fi
 }
 

@@ -23,8 +23,9 @@ struct OptionsOffice {
     Texte tubePartage = "verdane";
     // Headless: forced here, or when there is no display or the office has no window toolkit.
     bool sansEcran = false;
-    // How long an office may take to answer after its start.
-    int delaiDemarrageMs = 60000;
+    // How long an office may take to answer after its start: well over a minute on a loaded
+    // machine.
+    int delaiDemarrageMs = 300000;
     // How long one operation may last before the office started here is taken for hung and
     // killed (the next operation starts another).
     int delaiOperationMs = 180000;
