@@ -86,7 +86,8 @@ public:
     void ChargerURL(const Texte& url, bool cache) override {
         Panne("ChargerURL");
         journal.push_back("ChargerURL " + url + (cache ? " cache" : ""));
-        ++cadres;
+        // An office that died behind the load comes back empty.
+        if (perdu.empty()) ++cadres;
     }
     bool PrendreDocumentCourant() override { return cadres > 0; }
     Texte DocumentPerdu() override { return perdu; }

@@ -55,8 +55,8 @@ TEST_F(Installation, LesOptionsAbsentesSontCreeesVidesPuisEcritesEnFinDeTravail)
     e.options.SansAnnotation = 0;
     e.options.CheminEditeur = "/usr/bin/soffice";
     d.Ecrire("Marlo/Verdane/Editeur.svg", OctetsOptions(e));
-    for (const std::string ligne :
-         {"FAIRE quelque chose", "CREER " + d / "Marlo/Dossiers/DUPONT"}) {
+    for (const std::string& ligne :
+         {std::string("FAIRE quelque chose"), "CREER " + d / "Marlo/Dossiers/DUPONT"}) {
         std::filesystem::remove(fichier);
         Contexte c(u);
         ExecuterProgramme(c, LigneCommande(ligne), env);

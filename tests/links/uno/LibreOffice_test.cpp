@@ -317,7 +317,7 @@ TEST_F(LibreOfficeTest, FichiersTemporairesDansLeProfilPrive) {
     while (std::getline(environ, variable, '\0'))
         vu = vu || variable == "TMPDIR=" + (fs::path(profil) / "tmp").string();
     EXPECT_TRUE(vu);
-    liens.reset();
+    liens->Bureau().Terminer();
     EXPECT_FALSE(fs::exists(profil));
 }
 
