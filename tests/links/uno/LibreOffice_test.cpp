@@ -389,7 +389,8 @@ TEST(Gardien, OfficeFiniQuandLeProgrammeMeurt) {
         const pid_t office = bureau.Connecter(erreur) ? bureau.PidOffice() : 0;
         const std::string profil = bureau.ProfilOffice();
         [[maybe_unused]] auto n = ::write(tube[1], &office, sizeof office);
-        n = ::write(tube[1], profil.c_str(), profil.size());
+        // Ended by a line end: the guardian holds this pipe open too.
+        n = ::write(tube[1], (profil + "\n").c_str(), profil.size() + 1);
         ::close(tube[1]);
         ::pause();
         ::_exit(0);
@@ -400,8 +401,8 @@ TEST(Gardien, OfficeFiniQuandLeProgrammeMeurt) {
     pollfd attente{tube[0], POLLIN, 0};
     if (::poll(&attente, 1, kDemarrage) == 1) {
         [[maybe_unused]] auto n = ::read(tube[0], &office, sizeof office);
-        std::array<char, 4096> lu{};
-        while ((n = ::read(tube[0], lu.data(), lu.size())) > 0) profil.append(lu.data(), n);
+        char c = 0;
+        while (::read(tube[0], &c, 1) == 1 && c != '\n') profil += c;
     }
     ::close(tube[0]);
     // Killed as a terminal or a time limit does: the whole group of the program.
