@@ -15,6 +15,10 @@ public:
     // reached before has died. False, with the reason in `erreur`, when none can be had.
     virtual bool Connecter(Texte& erreur) = 0;
 
+    // Why the office that held the current document went away under it (a crash, a kill):
+    // the document went with it. Empty when no document was lost so.
+    virtual Texte DocumentPerdu() { return {}; }
+
     // The number of frames of the desktop.
     virtual int NombreCadres() = 0;
     // Loads a document from a URL ("private:factory/swriter" for a new one) into a new frame;

@@ -1,5 +1,6 @@
 #include "links/FinDocument.h"
 
+#include "links/FormatFichier.h"
 #include "links/Liens.h"
 #include "utils/Chaines.h"
 #include "utils/OutilsFichiers.h"
@@ -22,11 +23,39 @@ Texte Fin(const Texte& texte, std::size_t n) {
     return texte.size() >= n ? texte.substr(texte.size() - n) : texte;
 }
 
+const char* const kSansConvertisseur =
+    "Aucun traitement de texte capable de le convertir n'est disponible sur ce système.";
+
 void SignalerSansConversion(Contexte& ctx, const Texte& chemin) {
     ctx.utilisateur.AfficherMessage(
         {"Le document " + chemin + " n'a pas pu être converti : il est resté au format RTF.",
-         "Aucun traitement de texte capable de le convertir n'est disponible sur ce système.",
-         "Conversion impossible", ""});
+         kSansConvertisseur, "Conversion impossible", ""});
+}
+
+// The RTF written under the name of another format takes its own name: "x.doc" becomes
+// "x.rtf", replacing it. Gives the path of the RTF kept, empty when there is none.
+Texte GarderRtf(const Texte& resultat, const Texte& montre) {
+    const Texte copie = SansExtension(resultat) + ".rtf";
+    const auto tete = LireOctets(resultat, 0, 16);
+    if (tete && FormatDesOctets(*tete) == FormatDocument::Rtf) {
+        std::error_code ec;
+        std::filesystem::rename(CheminSysteme(resultat), CheminSysteme(copie), ec);
+        if (!ec) return copie;
+    }
+    // An update of a Word document keeps its RTF copy: the document itself is as it was.
+    if (FichierAuFormat(montre, FormatDocument::Rtf)) return montre;
+    return {};
+}
+
+void SignalerConversionManquee(Contexte& ctx, const Texte& resultat,
+                               const ConversionManquee& manquee) {
+    const Texte format = NomFormat(FormatDuChemin(resultat));
+    ctx.utilisateur.AfficherMessage(
+        {"Le document " + resultat + " n'a pas pu être créé au format " + format +
+             (manquee.copieRtf.empty()
+                  ? Texte(".")
+                  : " : il est gardé au format RTF sous le nom " + manquee.copieRtf + "."),
+         manquee.raison, "Conversion impossible", ""});
 }
 
 } // namespace
@@ -73,19 +102,23 @@ bool DoitResauver(bool miseAJour, const Texte& resultat) {
 }
 
 bool ResauverResultat(Contexte& ctx, const Texte& sourceDonnee, const Texte& cibleDonnee,
-                      bool affiche) {
+                      bool affiche, Texte* raison) {
     const Texte source = CheminComplet(sourceDonnee);
     const Texte cible = CheminComplet(cibleDonnee);
     Editeur editeur = Editeur::Aucun;
     PiloteEditeur* pilote = PiloteConversion(ctx, editeur);
     if (!pilote) {
-        if (FormatDuChemin(cible) != FormatDocument::Rtf) SignalerSansConversion(ctx, cible);
+        if (raison) *raison = kSansConvertisseur;
         return false;
     }
+    pilote->NoterErreur("");
+    bool fait = false;
     if (affiche && editeur == EditeurLie(ctx.etat))
-        return SauverSous(ctx, false, editeur, cible, false);
-    if (!pilote->OuvrirDocumentCache(source)) return false;
-    return SauverSous(ctx, true, editeur, cible, false);
+        fait = SauverSous(ctx, false, editeur, cible, false);
+    else
+        fait = pilote->OuvrirDocumentCache(source) && SauverSous(ctx, true, editeur, cible, false);
+    if (!fait && raison) *raison = pilote->DerniereErreur();
+    return fait;
 }
 
 void SupprimerCopieRtf(const Texte& resultat) {
@@ -95,10 +128,28 @@ void SupprimerCopieRtf(const Texte& resultat) {
 
 void TerminerDocument(Contexte& ctx, const Texte& modele, const Texte& resultat, bool miseAJour,
                       bool sansOuverture) {
+    ctx.etat.conversionManquee = {};
     ConvertirViaOO(ctx, resultat, sansOuverture);
     const Texte montre = miseAJour ? modele : resultat;
     if (!sansOuverture) AfficherDocument(ctx, CheminComplet(montre));
-    if (DoitResauver(miseAJour, resultat)) ResauverResultat(ctx, montre, resultat, !sansOuverture);
+    if (DoitResauver(miseAJour, resultat)) {
+        Texte raison;
+        const bool fait = ResauverResultat(ctx, montre, resultat, !sansOuverture, &raison);
+        const FormatDocument format = FormatDuChemin(resultat);
+        // A save that said it worked still has to have written the format asked for; an RTF
+        // document saved again is one already.
+        if (format != FormatDocument::Rtf &&
+            (!fait || !FichierAuFormat(CheminComplet(resultat), format))) {
+            ConversionManquee& manquee = ctx.etat.conversionManquee;
+            manquee.raison = !raison.empty() ? raison
+                             : fait
+                                 ? "Le fichier écrit n'est pas au format " + NomFormat(format) + "."
+                                 : Texte("La conversion n'a pas été faite.");
+            manquee.copieRtf = GarderRtf(resultat, montre);
+            SignalerConversionManquee(ctx, resultat, manquee);
+            return;
+        }
+    }
     SupprimerCopieRtf(resultat);
 }
 

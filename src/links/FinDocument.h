@@ -24,8 +24,9 @@ bool DoitResauver(bool miseAJour, const Texte& resultat);
 // The save of the result in the format its name tells (".doc", ".odt", ".docx", ".pdf"...).
 // `source` is the file written (in an update of a ".doc", its RTF copy), `cible` the document
 // as the user named it; `affiche` tells that `source` is open in the linked word processor.
-// True when saved.
-bool ResauverResultat(Contexte& ctx, const Texte& source, const Texte& cible, bool affiche);
+// True when saved; else `raison`, when given, receives why not.
+bool ResauverResultat(Contexte& ctx, const Texte& source, const Texte& cible, bool affiche,
+                      Texte* raison = nullptr);
 
 // A result named ".doc": the RTF file of the same stem is deleted.
 void SupprimerCopieRtf(const Texte& resultat);
@@ -33,6 +34,9 @@ void SupprimerCopieRtf(const Texte& resultat);
 // The end steps in their order: ConvertirViaOO when the option is on, the showing of the
 // document unless `sansOuverture`, the save in the result's own format, the deletion of the
 // RTF copy of a ".doc". `modele` is the file written in an update (its RTF copy for a ".doc").
+// A result that doesn't end in the format its name asks is a failure, told to the user and
+// kept in `conversionManquee` of the state: its RTF then takes the name "x.rtf" beside it
+// (in an update of a ".doc", the RTF copy stays and the document is as it was).
 void TerminerDocument(Contexte& ctx, const Texte& modele, const Texte& resultat, bool miseAJour,
                       bool sansOuverture);
 

@@ -187,6 +187,7 @@ bool SauverSous(Contexte& ctx, bool fermeture, Editeur editeur, const Texte& che
     try {
         pilote->EnregistrerSous(chemin, format, fermeture);
     } catch (const std::exception& e) {
+        pilote->NoterErreur(e.what());
         ctx.utilisateur.AfficherMessage(
             {"Erreur du traitement de texte lors de la sauvegarde du document en cours :\n"
              "Description technique de l'erreur : " +

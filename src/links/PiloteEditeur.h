@@ -58,8 +58,14 @@ public:
     void PoserDialogue(DialogueFichiers* dialogue) { dialogue_ = dialogue; }
     DialogueFichiers* Dialogue() const { return dialogue_; }
 
+    // Why the last failed operation of this link failed, as the user was told; a caller that
+    // reports on a batch of operations clears it first.
+    const Texte& DerniereErreur() const { return derniereErreur_; }
+    void NoterErreur(const Texte& erreur) { derniereErreur_ = erreur; }
+
 private:
     DialogueFichiers* dialogue_ = nullptr;
+    Texte derniereErreur_;
 };
 
 } // namespace verdane

@@ -30,6 +30,7 @@ Texte UrlDe(const Texte& chemin) {
 } // namespace
 
 void PiloteOpenOffice::SignalerErreur(const std::exception& e) {
+    NoterErreur(e.what());
     ctx_.utilisateur.AfficherMessage(
         {"Erreur d'OpenOffice :", e.what(), "Problème de liaison entre Verdane et OpenOffice", ""});
 }
@@ -37,6 +38,7 @@ void PiloteOpenOffice::SignalerErreur(const std::exception& e) {
 bool PiloteOpenOffice::LierApplication() {
     Texte erreur;
     if (bureau_.Connecter(erreur)) return true;
+    NoterErreur("Impossible de lancer OpenOffice : " + erreur);
     ctx_.utilisateur.AfficherMessage({"Impossible de lancer OpenOffice.", erreur,
                                       "Problème de liaison entre Verdane et OpenOffice", ""});
     return false;
@@ -184,8 +186,10 @@ Texte PiloteOpenOffice::Filtre(FormatDocument format, bool fermeture) {
 void PiloteOpenOffice::EnregistrerSous(const Texte& chemin, FormatDocument format, bool fermeture) {
     Texte erreur;
     if (!bureau_.Connecter(erreur)) throw ErreurEditeur(erreur);
-    if (bureau_.NombreCadres() <= 0 || !bureau_.PrendreDocumentCourant())
-        throw ErreurEditeur("Aucun document n'est ouvert.");
+    if (bureau_.NombreCadres() <= 0 || !bureau_.PrendreDocumentCourant()) {
+        const Texte perdu = bureau_.DocumentPerdu();
+        throw ErreurEditeur(perdu.empty() ? Texte("Aucun document n'est ouvert.") : perdu);
+    }
     bureau_.StockerSous(UrlDe(chemin), Filtre(format, fermeture), format == FormatDocument::Pdf);
     if (fermeture) FermerDocument(7);
 }

@@ -23,6 +23,8 @@ int TravailIni(Contexte& ctx, const LigneCommande& ligne) {
     const auto issue = CreerDocument(ctx, modele, resultat, false, !ouvrir, !remplacer);
     switch (issue) {
     case IssueCreation::Faite:
+        // A result that stayed RTF where another format was asked wasn't made.
+        return ctx.etat.conversionManquee.Manquee() ? kSortieEchec : kSortieFaite;
     case IssueCreation::Abandonnee:
         return kSortieFaite;
     case IssueCreation::ModeleIllisible:
@@ -48,7 +50,7 @@ int TravailSansFenetre(Contexte& ctx, const Texte& travail) {
 bool Initialiser(Contexte& ctx, const Environnement& env) {
     ctx.etat.marques = MarquesDuSysteme();
     InitialiserChemins(ctx.etat, env.dossierProgramme, env.marloHome);
-    ChargerOptions(ctx.etat);
+    ChargerOptions(ctx.etat, env.optionsEnLectureSeule);
     return ChargerParametres(ctx);
 }
 
@@ -102,9 +104,9 @@ int ExecuterProgramme(Contexte& ctx, const LigneCommande& ligne, const Environne
         ctx.utilisateur.AfficherMessage({"Travail inconnu : " + ligne.Argument(1),
                                          "Les travaux sont INI, OUVRIR, CREER, CERFA et GRAPH.",
                                          "Verdane", ""});
-        return kSortieUsage;
+        sortie = kSortieUsage;
     }
-    // The options are saved when the program ends, as they are after a job.
+    // The options are saved when the program ends, whatever the job was.
     EnregistrerOptions(ctx.etat);
     return sortie;
 }

@@ -14,6 +14,8 @@ inline constexpr int kSortieUsage = 2; // no such job in this build, or a bad co
 struct Environnement {
     Texte dossierProgramme; // the program's own folder
     Texte marloHome;        // MARLO_HOME, the Marlo folder, when set
+    // The options are read and never written, a missing file not created.
+    bool optionsEnLectureSeule = false;
 };
 
 // The common part of every start: folders, options, parameters. False when the program must

@@ -35,10 +35,6 @@ std::optional<Texte> DossierManquant(const Texte& dossier) {
     return std::nullopt;
 }
 
-void Erreur(Contexte& ctx, const Texte& texte, const Texte& technique = "") {
-    ctx.utilisateur.AfficherMessage({texte, technique, "verdane-lot", ""});
-}
-
 } // namespace
 
 Texte AideLot() {
@@ -61,8 +57,11 @@ Texte AideLot() {
            "  --version            affiche la version\n"
            "\n"
            "Le répertoire de Marlo est donné par la variable d'environnement MARLO_HOME.\n"
+           "Un RESULTAT .doc, .odt, .docx ou .pdf est converti par LibreOffice ; s'il ne peut\n"
+           "pas l'être, le document est gardé au format RTF sous le même nom en .rtf.\n"
            "Statut de sortie : 0 document créé (même avec des messages sur des codes),\n"
-           "1 le document n'a pas pu être écrit, 2 erreur d'usage ou donnée manquante.\n";
+           "1 le document n'a pas pu être écrit ou converti au format demandé,\n"
+           "2 erreur d'usage ou donnée manquante.\n";
 }
 
 LectureOptionsLot LireOptionsLot(const std::vector<Texte>& args) {
@@ -116,34 +115,42 @@ LectureOptionsLot LireOptionsLot(const std::vector<Texte>& args) {
 BilanLot ExecuterLot(Contexte& ctx, const OptionsLot& o, const Environnement& env) {
     const auto debut = std::chrono::steady_clock::now();
     BilanLot bilan;
-    auto finir = [&](int statut) {
+    auto finir = [&](int statut, const Texte& raison = "") {
         bilan.statut = statut;
+        if (statut != kSortieFaite && bilan.raison.empty()) bilan.raison = raison;
         bilan.codesTrouves = ctx.etat.NbCodes;
         bilan.codesTraites = ctx.etat.CodesFaits;
         bilan.secondes =
             std::chrono::duration<double>(std::chrono::steady_clock::now() - debut).count();
         return bilan;
     };
+    // A failure of the run told to the user, and kept as the reason of the report.
+    auto erreur = [&](const Texte& texte, const Texte& technique = "") {
+        bilan.raison = texte;
+        ctx.utilisateur.AfficherMessage({texte, technique, "verdane-lot", ""});
+    };
     // Paths, options and parameters as the program reads them; the options are not saved:
     // this tool leaves the user's current dossier alone.
-    if (!Initialiser(ctx, env)) return finir(kSortieUsage);
+    Environnement lecture = env;
+    lecture.optionsEnLectureSeule = true;
+    if (!Initialiser(ctx, lecture)) return finir(kSortieUsage, "Marlo.par est introuvable.");
 
     if (auto manque = DossierManquant(o.dossier)) {
-        Erreur(ctx, "Dossier Marlo introuvable : " + *manque + ".");
+        erreur("Dossier Marlo introuvable : " + *manque + ".");
         return finir(kSortieUsage);
     }
     for (const Texte& c : o.compares) {
         if (auto manque = DossierManquant(c)) {
-            Erreur(ctx, "Dossier à comparer introuvable : " + *manque + ".");
+            erreur("Dossier à comparer introuvable : " + *manque + ".");
             return finir(kSortieUsage);
         }
     }
     if (!FichierExiste(o.modele)) {
-        Erreur(ctx, "Modèle de document introuvable : " + o.modele + ".");
+        erreur("Modèle de document introuvable : " + o.modele + ".");
         return finir(kSortieUsage);
     }
     if (FichierExiste(o.resultat) && !o.remplacer) {
-        Erreur(ctx, "Le document demandé existe déjà : " + o.resultat + ".",
+        erreur("Le document demandé existe déjà : " + o.resultat + ".",
                "Ajoutez --remplacer pour le remplacer.");
         return finir(kSortieUsage);
     }
@@ -153,8 +160,8 @@ BilanLot ExecuterLot(Contexte& ctx, const OptionsLot& o, const Environnement& en
     }
     if (!DossierExiste(DossierParent(o.resultat).empty() ? Texte(".")
                                                          : DossierParent(o.resultat))) {
-        Erreur(ctx, "Le répertoire du document résultat n'existe pas : " +
-                        DossierParent(o.resultat) + ".");
+        erreur("Le répertoire du document résultat n'existe pas : " + DossierParent(o.resultat) +
+               ".");
         return finir(kSortieEchec);
     }
 
@@ -171,15 +178,20 @@ BilanLot ExecuterLot(Contexte& ctx, const OptionsLot& o, const Environnement& en
     // Without --remplacer, a result that appears meanwhile is not replaced.
     switch (CreerDocument(ctx, o.modele, o.resultat, false, true, !o.remplacer)) {
     case IssueCreation::Faite:
-        return finir(kSortieFaite);
+        break;
     case IssueCreation::Abandonnee:
-        return finir(kSortieUsage);
+        return finir(kSortieUsage, "La création a été abandonnée.");
     case IssueCreation::ModeleIllisible:
-        return finir(kSortieUsage);
+        return finir(kSortieUsage, "Le modèle de document est illisible.");
     case IssueCreation::ResultatImpossible:
-        return finir(kSortieEchec);
+        return finir(kSortieEchec, "Le document résultat ne peut pas être écrit.");
     }
-    return finir(kSortieEchec);
+    const ConversionManquee& manquee = e.conversionManquee;
+    if (manquee.Manquee()) {
+        bilan.copieRtf = manquee.copieRtf;
+        return finir(kSortieEchec, manquee.raison);
+    }
+    return finir(kSortieFaite);
 }
 
 std::string RapportJson(const OptionsLot& o, const BilanLot& bilan,
@@ -192,6 +204,8 @@ std::string RapportJson(const OptionsLot& o, const BilanLot& bilan,
     j.Chaine("resultat", o.resultat);
     j.Entier("statut", bilan.statut);
     j.Booleen("documentCree", bilan.statut == kSortieFaite);
+    j.Chaine("raison", bilan.raison);
+    j.Chaine("copieRtf", bilan.copieRtf);
     j.Entier("codesTrouves", bilan.codesTrouves);
     j.Entier("codesTraites", bilan.codesTraites);
     j.Nombre("secondes", bilan.secondes);

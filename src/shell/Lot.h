@@ -36,6 +36,10 @@ Texte AideLot();
 // What a run did, for its report.
 struct BilanLot {
     int statut = kSortieFaite;
+    // Why the document wasn't made; empty when it was.
+    Texte raison;
+    // A result asked in another format that stayed RTF: the path of that RTF.
+    Texte copieRtf;
     int codesTrouves = 0;
     int codesTraites = 0;
     double secondes = 0;

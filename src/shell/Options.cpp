@@ -109,9 +109,13 @@ std::string OctetsOptions(const Etat& etat) {
     return e.Octets();
 }
 
-void ChargerOptions(Etat& etat) {
-    if (!DossierExiste(etat.chemins.RepVerdane)) CreerChemin(etat.chemins.RepVerdane);
-    const auto octets = LireFichier(FichierOptions(etat));
+void ChargerOptions(Etat& etat, bool lectureSeule) {
+    const Texte fichier = FichierOptions(etat);
+    if (!lectureSeule && !FichierExiste(fichier)) {
+        if (!DossierExiste(etat.chemins.RepVerdane)) CreerChemin(etat.chemins.RepVerdane);
+        EcrireFichierSur(fichier, "");
+    }
+    const auto octets = LireFichier(fichier);
     LireOctetsOptions(etat, octets ? std::string_view(*octets) : std::string_view());
 }
 

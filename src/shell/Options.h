@@ -15,8 +15,9 @@ inline constexpr int kNbEnregistrementsOptions = 45;
 Texte FichierOptions(const Etat& etat);
 
 // Reads the records into the options and dossier slots 0 to 5. A file of fewer than 2 bytes is
-// treated as absent; the Verdane folder is created when missing. Record 28 is forced to 1.
-void ChargerOptions(Etat& etat);
+// treated as absent. A missing file is created empty, and the Verdane folder before it, unless
+// `lectureSeule`. Record 28 is forced to 1.
+void ChargerOptions(Etat& etat, bool lectureSeule = false);
 // Writes all 45 records with the current values, through a temporary file. False on failure.
 bool EnregistrerOptions(const Etat& etat);
 

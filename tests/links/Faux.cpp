@@ -2,6 +2,40 @@
 
 namespace verdane::essai {
 
+namespace {
+
+// A zip's local header of a stored entry: signature, version, flags, method, time, date, crc,
+// sizes, name length, extra length; then the name and the data.
+std::string EntreeZip(const std::string& nom, const std::string& donnees) {
+    auto u16 = [](std::size_t v) { return std::string{char(v & 0xFF), char((v >> 8) & 0xFF)}; };
+    auto u32 = [&](std::size_t v) { return u16(v & 0xFFFF) + u16(v >> 16); };
+    return std::string("PK\x03\x04", 4) + u16(20) + u16(0) + u16(0) + u16(0) + u16(0) + u32(0) +
+           u32(donnees.size()) + u32(donnees.size()) + u16(nom.size()) + u16(0) + nom + donnees;
+}
+
+} // namespace
+
+std::string OctetsDuFormat(FormatDocument format) {
+    switch (format) {
+    case FormatDocument::Rtf:
+        return "{\\rtf1\\ansi }";
+    case FormatDocument::Doc:
+        return std::string("\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1", 8) + std::string(504, '\0');
+    case FormatDocument::Pdf:
+        return "%PDF-1.7\n%\xE2\xE3\xCF\xD3\n";
+    case FormatDocument::Odt:
+        return EntreeZip("mimetype", "application/vnd.oasis.opendocument.text") +
+               EntreeZip("content.xml", "<office:document-content/>");
+    case FormatDocument::Docx:
+        return EntreeZip("[Content_Types].xml", "<Types/>") +
+               EntreeZip("word/document.xml", "<w:document/>");
+    case FormatDocument::Lwp:
+    case FormatDocument::Autre:
+        break;
+    }
+    return "texte";
+}
+
 std::string Decrire(const Valeur& v) {
     if (std::holds_alternative<bool>(v)) return std::get<bool>(v) ? "Vrai" : "Faux";
     if (std::holds_alternative<long>(v)) return std::to_string(std::get<long>(v));

@@ -35,6 +35,10 @@ public:
     std::deque<Reponse> reponses;
 };
 
+// The first bytes of a document of `format`, laid as that format lays them: what tells a
+// real conversion from a file that only has the name.
+std::string OctetsDuFormat(FormatDocument format);
+
 // A word processor that writes what it is asked to save, and tells what it did.
 class PiloteEnregistreur : public PiloteEditeur {
 public:
@@ -59,12 +63,15 @@ public:
         if (refuse) throw ErreurEditeur("Accès refusé");
         journal.push_back("enregistrer " + chemin + " " + std::to_string(static_cast<int>(format)) +
                           (fermeture ? " fermer" : ""));
-        EcrireFichierSur(chemin, "{\\rtf1 }");
+        // An office that says it saved but wrote RTF still.
+        EcrireFichierSur(chemin,
+                         ecritRtf ? OctetsDuFormat(FormatDocument::Rtf) : OctetsDuFormat(format));
     }
     bool Disponible() const override { return disponible; }
     std::vector<std::string> journal;
     bool refuse = false;
     bool disponible = true;
+    bool ecritRtf = false;
 };
 
 // An office whose document state tests set; every call is written to `journal`.
@@ -79,9 +86,11 @@ public:
     void ChargerURL(const Texte& url, bool cache) override {
         Panne("ChargerURL");
         journal.push_back("ChargerURL " + url + (cache ? " cache" : ""));
-        ++cadres;
+        // An office that died behind the load comes back empty.
+        if (perdu.empty()) ++cadres;
     }
     bool PrendreDocumentCourant() override { return cadres > 0; }
+    Texte DocumentPerdu() override { return perdu; }
     bool LectureSeule() override { return lectureSeule; }
     bool AEmplacement() override { return emplacement; }
     bool Modifie() override { return modifie; }
@@ -110,6 +119,7 @@ public:
     bool emplacement = true;
     bool modifie = true;
     std::string enPanne;
+    Texte perdu;
 };
 
 // A whole automation world: every member read gives an object named by its path unless a

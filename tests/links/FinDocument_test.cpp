@@ -1,11 +1,14 @@
 #include "links/Faux.h"
 #include "links/FinDocument.h"
+#include "links/FormatFichier.h"
+#include "links/PiloteOpenOffice.h"
 #include "utils/OutilsFichiers.h"
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <unistd.h>
 
 namespace verdane::essai {
@@ -77,11 +80,82 @@ TEST_F(FinDocumentTest, ConvertirViaOOLaisseLeDocumentOuvertDansOpenOffice) {
     EXPECT_EQ(office.journal.back(), "enregistrer " + Chemin("r.doc") + " 1 fermer");
 }
 
-TEST_F(FinDocumentTest, SansTraitementDeTexteLeDocumentResteRtf) {
+TEST_F(FinDocumentTest, ConversionManqueeGardeLeRtfSousSonNom) {
+    const std::string rtf = "{\\rtf1 Dupont}";
+    const std::vector<std::function<void()>> pannes = {
+        [&] { ctx.pilotes = {}; },       // no word processor at all
+        [&] { office.refuse = true; },   // the save fails
+        [&] { office.ecritRtf = true; }, // the office says it saved, but didn't convert
+    };
+    for (std::size_t i = 0; i < pannes.size(); ++i) {
+        SCOPED_TRACE(i);
+        ctx.pilotes[static_cast<std::size_t>(Editeur::OpenOffice)] = &office;
+        office.refuse = office.ecritRtf = false;
+        u.messages.clear();
+        pannes[i]();
+        std::ofstream(dossier / "r.odt") << rtf;
+        std::ofstream(dossier / "r.rtf") << "ancienne copie";
+        TerminerDocument(ctx, "m.vdm", Chemin("r.odt"), false, true);
+        const ConversionManquee& manquee = ctx.etat.conversionManquee;
+        ASSERT_TRUE(manquee.Manquee());
+        EXPECT_EQ(manquee.copieRtf, Chemin("r.rtf"));
+        EXPECT_FALSE(fs::exists(dossier / "r.odt")) << "no RTF under the name of another format";
+        // The RTF found under the asked name: the program's, or the office's own.
+        if (i < 2)
+            EXPECT_EQ(LireFichier(Chemin("r.rtf")), rtf);
+        else
+            EXPECT_EQ(FormatDesOctets(LireFichier(Chemin("r.rtf")).value_or("")),
+                      FormatDocument::Rtf);
+        ASSERT_FALSE(u.messages.empty());
+        EXPECT_EQ(u.messages.back().titre, "Conversion impossible");
+        EXPECT_EQ(u.messages.back().texte,
+                  "Le document " + Chemin("r.odt") +
+                      " n'a pas pu être créé au format ODT : il est gardé au format RTF sous le "
+                      "nom " +
+                      Chemin("r.rtf") + ".");
+        EXPECT_EQ(u.messages.back().technique, manquee.raison);
+    }
+    EXPECT_EQ(ctx.etat.conversionManquee.raison, "Le fichier écrit n'est pas au format ODT.");
+    office.ecritRtf = false;
+    office.refuse = true;
+    std::ofstream(dossier / "r.odt") << rtf;
+    TerminerDocument(ctx, "m.vdm", Chemin("r.odt"), false, true);
+    EXPECT_EQ(ctx.etat.conversionManquee.raison, "Accès refusé") << "the office's own words";
+
+    // The next document that converts clears the failure.
+    office.refuse = false;
+    std::ofstream(dossier / "r.odt") << rtf;
+    TerminerDocument(ctx, "m.vdm", Chemin("r.odt"), false, true);
+    EXPECT_FALSE(ctx.etat.conversionManquee.Manquee());
+    EXPECT_TRUE(FichierAuFormat(Chemin("r.odt"), FormatDocument::Odt));
+}
+
+TEST_F(FinDocumentTest, MiseAJourDUnDocManqueeGardeLeDocumentEtSaCopie) {
+    // The Word document as it was, and its refreshed RTF copy.
+    std::ofstream(dossier / "r.doc") << OctetsDuFormat(FormatDocument::Doc);
+    std::ofstream(dossier / "r.rtf") << "{\\rtf1 frais}";
+    office.refuse = true;
+    TerminerDocument(ctx, Chemin("r.rtf"), Chemin("r.doc"), true, true);
+    EXPECT_EQ(ctx.etat.conversionManquee.copieRtf, Chemin("r.rtf"));
+    EXPECT_EQ(LireFichier(Chemin("r.rtf")), "{\\rtf1 frais}") << "not deleted";
+    EXPECT_TRUE(FichierAuFormat(Chemin("r.doc"), FormatDocument::Doc));
+
+    // An RTF document refreshed without a word processor is no failure.
     ctx.pilotes = {};
-    EXPECT_FALSE(ResauverResultat(ctx, Chemin("r.doc"), Chemin("r.doc"), false));
-    ASSERT_EQ(u.messages.size(), 1u);
-    EXPECT_EQ(u.messages[0].titre, "Conversion impossible");
+    TerminerDocument(ctx, Chemin("r.rtf"), Chemin("r.rtf"), true, true);
+    EXPECT_FALSE(ctx.etat.conversionManquee.Manquee());
+}
+
+TEST_F(FinDocumentTest, DocumentPerduAvecSonOfficeDitCommeTel) {
+    FauxBureau bureau;
+    PiloteOpenOffice lo(ctx, bureau);
+    ctx.pilotes[static_cast<std::size_t>(Editeur::OpenOffice)] = &lo;
+    bureau.perdu = "LibreOffice s'est arrêté brutalement : le document en cours est perdu.";
+    std::ofstream(dossier / "r.pdf") << "{\\rtf1 x}";
+    TerminerDocument(ctx, "m.vdm", Chemin("r.pdf"), false, true);
+    EXPECT_EQ(ctx.etat.conversionManquee.raison,
+              "LibreOffice s'est arrêté brutalement : le document en cours est perdu.");
+    EXPECT_EQ(ctx.etat.conversionManquee.copieRtf, Chemin("r.rtf"));
 }
 
 TEST_F(FinDocumentTest, CheminRelatifCompleteParLeDossierCourant) {

@@ -101,7 +101,7 @@ TEST_F(SauverSousTest, UnModeleEstSauveEnRtfPuisRenommeEnVdm) {
     std::ofstream(dossier / "lettre.vdm") << "ancien";
     ASSERT_TRUE(SauverSous(ctx, false, Editeur::OpenOffice, Chemin("lettre.VDM"), true));
     EXPECT_FALSE(fs::exists(dossier / "lettre.rtf"));
-    EXPECT_EQ(*LireFichier(Chemin("lettre.vdm")), "{\\rtf1 }");
+    EXPECT_EQ(*LireFichier(Chemin("lettre.vdm")), OctetsDuFormat(FormatDocument::Rtf));
     const std::vector<std::string> attendu = {"enregistrer " + Chemin("lettre.rtf") + " 0",
                                               "fermer 7", "ouvrir " + Chemin("lettre.vdm")};
     EXPECT_EQ(pilote.journal, attendu);

@@ -42,6 +42,43 @@ TEST_F(Installation, LeTravailIniCreeLeResultat) {
     EXPECT_TRUE(relu.NomDossier[0].empty());
 }
 
+TEST_F(Installation, LesOptionsAbsentesSontCreeesVidesPuisEcritesEnFinDeTravail) {
+    const auto fichier = d.Systeme() / "Marlo/Verdane/Editeur.svg";
+    ASSERT_FALSE(std::filesystem::exists(fichier.parent_path()));
+    ASSERT_TRUE(Initialiser(ctx, env));
+    ASSERT_TRUE(std::filesystem::exists(fichier));
+    EXPECT_EQ(std::filesystem::file_size(fichier), 0u);
+
+    // Whatever the job word, even one that isn't a job, the options are saved at the end, the
+    // annotations' record forced to 1.
+    Etat e;
+    e.options.SansAnnotation = 0;
+    e.options.CheminEditeur = "/usr/bin/soffice";
+    d.Ecrire("Marlo/Verdane/Editeur.svg", OctetsOptions(e));
+    for (const std::string& ligne :
+         {std::string("FAIRE quelque chose"), "CREER " + d / "Marlo/Dossiers/DUPONT"}) {
+        std::filesystem::remove(fichier);
+        Contexte c(u);
+        ExecuterProgramme(c, LigneCommande(ligne), env);
+        const std::string ecrit = d.Lire("Marlo/Verdane/Editeur.svg");
+        ASSERT_EQ(ecrit.size(), 45u * 128u) << ligne;
+        EXPECT_EQ(ecrit[27 * 128], 1);
+    }
+    d.Ecrire("Marlo/Verdane/Editeur.svg", OctetsOptions(e));
+    Contexte c(u);
+    ExecuterProgramme(c, LigneCommande("FAIRE"), env);
+    EXPECT_EQ(c.etat.options.CheminEditeur, "/usr/bin/soffice") << "read, then written back";
+    EXPECT_EQ(d.Lire("Marlo/Verdane/Editeur.svg").substr(2, 16), "/usr/bin/soffice");
+}
+
+TEST_F(Installation, LeTravailIniSansConversionPossibleDonne1) {
+    EXPECT_EQ(
+        Executer("INI \"" + d / "a b/m.vdm" + "\" \"" + d / "a b/r.odt" + "\" \"\" remplacer"),
+        kSortieEchec);
+    EXPECT_TRUE(d.Lire("a b/r.rtf").starts_with("{\\rtf1 Bonjour"));
+    EXPECT_FALSE(std::filesystem::exists(d.Systeme() / "a b/r.odt"));
+}
+
 TEST_F(Installation, LeTravailIniNeRemplacePasSansLeDire) {
     d.Ecrire("a b/r.rtf", "ancien");
     EXPECT_EQ(Executer("INI \"" + d / "a b/m.vdm" + "\" \"" + d / "a b/r.rtf" + "\""),

@@ -104,6 +104,28 @@ TEST_F(Lot, UnResultatImpossibleAEcrireDonne1) {
     EXPECT_EQ(Executer(Options(d / "nulle/part/r.rtf")).statut, kSortieEchec);
 }
 
+TEST_F(Lot, UneConversionManqueeDonne1EtGardeLeRtf) {
+    // No word processor in this run: a ".doc" can't be made.
+    const auto bilan = Executer(Options(d / "r.doc"));
+    EXPECT_EQ(bilan.statut, kSortieEchec);
+    EXPECT_EQ(bilan.copieRtf, d / "r.rtf");
+    EXPECT_FALSE(bilan.raison.empty());
+    EXPECT_FALSE(std::filesystem::exists(d.Systeme() / "r.doc"));
+    EXPECT_TRUE(d.Lire("r.rtf").starts_with("{\\rtf1 Bonjour "));
+    const std::string json = RapportJson(Options(d / "r.doc"), bilan, enregistre.Evenements());
+    EXPECT_NE(json.find("\"statut\":1,\"documentCree\":false,\"raison\":\"Aucun traitement"),
+              std::string::npos)
+        << json;
+    EXPECT_NE(json.find("\"copieRtf\":\"" + Cp1252VersUtf8(d / "r.rtf") + "\""), std::string::npos);
+}
+
+TEST_F(Lot, LesOptionsNeSontNiCreeesNiEcrites) {
+    const auto options = d.Systeme() / "Marlo/Verdane";
+    ASSERT_FALSE(std::filesystem::exists(options));
+    EXPECT_EQ(Executer(Options(d / "r.rtf")).statut, kSortieFaite);
+    EXPECT_FALSE(std::filesystem::exists(options));
+}
+
 TEST_F(Lot, LesDossiersComparesPrennentLesPlaces1Et2) {
     OptionsLot o = Options(d / "r.rtf");
     o.compares = {AjouterDossier("MARTIN"), AjouterDossier("DURAND")};

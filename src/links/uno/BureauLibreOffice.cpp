@@ -2,6 +2,7 @@
 
 #include "links/uno/ProcessusOffice.h"
 #include "links/uno/Veilleur.h"
+#include "links/uno/Verrous.h"
 #include "utils/Chaines.h"
 
 #include <com/sun/star/beans/PropertyValue.hpp>
@@ -16,6 +17,7 @@
 #include <com/sun/star/frame/XFrame.hpp>
 #include <com/sun/star/frame/XModel.hpp>
 #include <com/sun/star/frame/XStorable.hpp>
+#include <com/sun/star/lang/DisposedException.hpp>
 #include <com/sun/star/lang/XComponent.hpp>
 #include <com/sun/star/text/XText.hpp>
 #include <com/sun/star/text/XTextRange.hpp>
@@ -26,6 +28,7 @@
 #include <com/sun/star/util/XCloseable.hpp>
 #include <com/sun/star/util/XModifiable.hpp>
 #include <cppuhelper/bootstrap.hxx>
+#include <osl/file.hxx>
 #include <rtl/ustring.hxx>
 
 #include <chrono>
@@ -54,14 +57,13 @@ Texte DeUno(const rtl::OUString& s) {
     return Texte(o.getStr(), static_cast<std::size_t>(o.getLength()));
 }
 
-[[noreturn]] void Echouer(const uno::Exception& e, const char* operation,
-                          const Veilleur& veilleur) {
-    Texte description = DeUno(e.Message);
-    if (veilleur.Expire())
-        description = "LibreOffice ne répondait plus : il a été arrêté après " +
-                      std::to_string(veilleur.DelaiMs() / 1000) + " s.";
-    if (description.empty()) description = "erreur sans description";
-    throw ErreurEditeur(Texte(operation) + " : " + description);
+// The path of this system that a file URL names; empty for any other URL.
+std::string CheminDeUrl(const rtl::OUString& url) {
+    rtl::OUString chemin;
+    if (!url.startsWithIgnoreAsciiCase("file:") ||
+        osl::FileBase::getSystemPathFromFileURL(url, chemin) != osl::FileBase::E_None)
+        return {};
+    return rtl::OUStringToOString(chemin, RTL_TEXTENCODING_UTF8).getStr();
 }
 
 // The UNO runtime of this program is set up from the office's own settings.
@@ -72,8 +74,9 @@ void PreparerAmorce() {
 #endif
 }
 
-bool SansEcran(const OptionsOffice& o) {
+bool DoitEtreSansEcran(const OptionsOffice& o) {
     if (o.sansEcran) return true;
+    if (o.officeVisible && !o.officeVisible()) return true;
     const char* x = std::getenv("DISPLAY");
     const char* w = std::getenv("WAYLAND_DISPLAY");
     if ((!x || !*x) && (!w || !*w)) return true;
@@ -129,6 +132,65 @@ struct BureauLibreOffice::Impl {
     bool sansEcran = true;
     // Documents shown on the screen of the office started here.
     int montres = 0;
+    // Why the current document went with its office; empty while it hasn't.
+    Texte perdu;
+
+    [[noreturn]] void Echouer(const uno::Exception& e, const Texte& operation) {
+        Texte description = DeUno(e.Message);
+        if (veilleur.Expire()) {
+            description = "LibreOffice ne répondait plus : il a été arrêté après " +
+                          std::to_string(veilleur.DelaiMs() / 1000) + " s.";
+            perdu = description;
+            document.clear();
+        } else if (Arrete()) {
+            description = perdu;
+        }
+        if (description.empty()) description = "erreur sans description";
+        throw ErreurEditeur(operation + " : " + description);
+    }
+
+    // True when the office went away under the call that just failed: its end is told in
+    // `perdu`, and the document is gone with it.
+    bool Arrete() {
+        const bool mort = processus.Pid() != 0 && !processus.Vivant();
+        if (!mort && !PontRompu()) return false;
+        // The launcher ends right behind the office proper: its status tells how.
+        using namespace std::chrono;
+        const auto limite = steady_clock::now() + seconds(10);
+        while (processus.Pid() > 0 && processus.Vivant() && steady_clock::now() < limite)
+            std::this_thread::sleep_for(milliseconds(50));
+        NoterPerte();
+        return true;
+    }
+
+    // True when the connection to the office is gone: the office with it, or as good as.
+    bool PontRompu() {
+        if (!bureau.is()) return false;
+        try {
+            bureau->getFrames();
+            return false;
+        } catch (const lang::DisposedException&) {
+            return true;
+        } catch (const uno::Exception&) {
+            return false;
+        }
+    }
+
+    void NoterPerte() {
+        const std::string& fin = processus.Fin();
+        perdu = "LibreOffice s'est arrêté brutalement" + (fin.empty() ? "" : " (" + fin + ")") +
+                " : le document en cours est perdu.";
+        document.clear();
+    }
+
+    // A lock of the document at `url` left by an office of this program: by the one started
+    // here when `aussiLeNotre`, else only by one that is gone.
+    void RetirerVerrouDe(const rtl::OUString& url, bool aussiLeNotre) {
+        const std::string chemin = CheminDeUrl(url);
+        if (!chemin.empty())
+            RetirerVerrou(chemin, aussiLeNotre ? processus.Profil() : std::string(),
+                          PrefixeProfils());
+    }
 
     bool Joindre(const Texte& tube) {
         try {
@@ -164,7 +226,9 @@ struct BureauLibreOffice::Impl {
     }
 
     bool Demarrer(Texte& erreur) {
-        const std::string executable = TrouverExecutableOffice(options.executable);
+        std::string choisi = options.executable;
+        if (choisi.empty() && options.executableChoisi) choisi = options.executableChoisi();
+        const std::string executable = TrouverExecutableOffice(choisi);
         if (executable.empty()) {
             erreur = "LibreOffice n'est pas installé sur ce système (programme soffice "
                      "introuvable).";
@@ -175,7 +239,7 @@ struct BureauLibreOffice::Impl {
                            std::to_string(::getpid()) + "_" +
                            std::to_string(reinterpret_cast<std::uintptr_t>(this)) + "_" +
                            std::to_string(++compteurTubes);
-        sansEcran = SansEcran(options);
+        sansEcran = DoitEtreSansEcran(options);
         montres = 0;
         if (!processus.Demarrer(executable, tube, sansEcran, erreur)) return false;
         veilleur.Surveiller(processus.Pid());
@@ -185,14 +249,16 @@ struct BureauLibreOffice::Impl {
         while (steady_clock::now() < fin) {
             if (!processus.Vivant()) {
                 processus.Arreter(0);
-                erreur = "LibreOffice (" + executable + ") s'est arrêté au démarrage.";
+                erreur =
+                    "LibreOffice (" + Utf8VersCp1252(executable) + ") s'est arrêté au démarrage.";
                 return false;
             }
             if (Joindre(tube)) return true;
             std::this_thread::sleep_for(milliseconds(100));
         }
         processus.Arreter(0);
-        erreur = "LibreOffice (" + executable + ") ne répond pas après son démarrage.";
+        erreur =
+            "LibreOffice (" + Utf8VersCp1252(executable) + ") ne répond pas après son démarrage.";
         return false;
     }
 
@@ -259,9 +325,27 @@ pid_t BureauLibreOffice::PidOffice() const {
     return pid > 0 ? pid : 0;
 }
 
+void BureauLibreOffice::PoserDelaiOperation(int delaiMs) {
+    impl_->veilleur.PoserDelai(delaiMs);
+}
+
+std::string BureauLibreOffice::ProfilOffice() const {
+    return impl_->processus.Profil();
+}
+
+bool BureauLibreOffice::SansEcran() const {
+    return impl_->sansEcran;
+}
+
+Texte BureauLibreOffice::DocumentPerdu() {
+    return impl_->perdu;
+}
+
 bool BureauLibreOffice::Connecter(Texte& erreur) {
     if (impl_->Vivant()) return true;
-    // Not there yet, or gone since the last operation: what was known of it is of no use.
+    // Gone since the last operation, with the document it held.
+    if (impl_->document.is() && impl_->perdu.empty()) impl_->NoterPerte();
+    // Not there yet, or gone: what was known of it is of no use.
     impl_->Oublier();
     if (impl_->processus.Pid() != 0) impl_->processus.Arreter(0);
     try {
@@ -284,7 +368,7 @@ int BureauLibreOffice::NombreCadres() {
         if (!impl_->bureau.is()) return 0;
         return impl_->bureau->getFrames()->getCount();
     } catch (const uno::Exception& e) {
-        Echouer(e, "Cadres de LibreOffice", impl_->veilleur);
+        impl_->Echouer(e, "Cadres de LibreOffice");
     }
 }
 
@@ -295,14 +379,17 @@ void BureauLibreOffice::ChargerURL(const Texte& url, bool cache) {
         uno::Sequence<beans::PropertyValue> arguments(1);
         arguments.getArray()[0].Name = "Hidden";
         arguments.getArray()[0].Value <<= cache;
-        Reference<lang::XComponent> composant = impl_->bureau->loadComponentFromURL(
-            VersUno(UrlPourOffice(url)), "_blank", 0, arguments);
+        const rtl::OUString urlOffice = VersUno(UrlPourOffice(url));
+        impl_->RetirerVerrouDe(urlOffice, false);
+        Reference<lang::XComponent> composant =
+            impl_->bureau->loadComponentFromURL(urlOffice, "_blank", 0, arguments);
         if (!composant.is())
             throw ErreurEditeur("LibreOffice ne peut pas ouvrir le document " + url + ".");
         impl_->document = composant;
+        impl_->perdu.clear();
         if (!cache && !impl_->sansEcran) ++impl_->montres;
     } catch (const uno::Exception& e) {
-        Echouer(e, ("Ouverture de " + url).c_str(), impl_->veilleur);
+        impl_->Echouer(e, "Ouverture de " + url);
     }
 }
 
@@ -344,7 +431,7 @@ bool BureauLibreOffice::LectureSeule() {
     try {
         return Reference<frame::XStorable>(impl_->Modele(), UNO_QUERY_THROW)->isReadonly();
     } catch (const uno::Exception& e) {
-        Echouer(e, "Lecture seule", impl_->veilleur);
+        impl_->Echouer(e, "Lecture seule");
     }
 }
 
@@ -353,7 +440,7 @@ bool BureauLibreOffice::AEmplacement() {
     try {
         return Reference<frame::XStorable>(impl_->Modele(), UNO_QUERY_THROW)->hasLocation();
     } catch (const uno::Exception& e) {
-        Echouer(e, "Emplacement du document", impl_->veilleur);
+        impl_->Echouer(e, "Emplacement du document");
     }
 }
 
@@ -362,7 +449,7 @@ bool BureauLibreOffice::Modifie() {
     try {
         return Reference<util::XModifiable>(impl_->Modele(), UNO_QUERY_THROW)->isModified();
     } catch (const uno::Exception& e) {
-        Echouer(e, "Modification du document", impl_->veilleur);
+        impl_->Echouer(e, "Modification du document");
     }
 }
 
@@ -371,7 +458,7 @@ void BureauLibreOffice::Stocker() {
     try {
         Reference<frame::XStorable>(impl_->Modele(), UNO_QUERY_THROW)->store();
     } catch (const uno::Exception& e) {
-        Echouer(e, "Enregistrement du document", impl_->veilleur);
+        impl_->Echouer(e, "Enregistrement du document");
     }
 }
 
@@ -384,12 +471,14 @@ void BureauLibreOffice::StockerSous(const Texte& url, const Texte& filtre, bool 
         arguments.getArray()[0].Value <<= VersUno(FiltreDeLOffice(filtre));
         arguments.getArray()[1].Name = "Overwrite";
         arguments.getArray()[1].Value <<= true;
+        const rtl::OUString cible = VersUno(UrlPourOffice(url));
+        impl_->RetirerVerrouDe(cible, false);
         if (exporter)
-            stockage->storeToURL(VersUno(UrlPourOffice(url)), arguments);
+            stockage->storeToURL(cible, arguments);
         else
-            stockage->storeAsURL(VersUno(UrlPourOffice(url)), arguments);
+            stockage->storeAsURL(cible, arguments);
     } catch (const uno::Exception& e) {
-        Echouer(e, ("Enregistrement sous " + url + " (" + filtre + ")").c_str(), impl_->veilleur);
+        impl_->Echouer(e, "Enregistrement sous " + url + " (" + filtre + ")");
     }
 }
 
@@ -400,16 +489,29 @@ void BureauLibreOffice::FermerCadreActif() {
         Reference<frame::XModel> modele(impl_->document, UNO_QUERY);
         if (modele.is() && modele->getCurrentController().is())
             cadre = modele->getCurrentController()->getFrame();
-        if (!cadre.is()) cadre = impl_->bureau->getActiveFrame();
+        if (!cadre.is()) {
+            cadre = impl_->bureau->getActiveFrame();
+            if (cadre.is() && cadre->getController().is())
+                modele = cadre->getController()->getModel();
+        }
         impl_->document.clear();
         if (!cadre.is()) return;
+        const rtl::OUString url = modele.is() ? modele->getURL() : rtl::OUString();
         Reference<util::XCloseable> fermable(cadre, UNO_QUERY);
         if (fermable.is())
             fermable->close(true);
         else
             cadre->dispose();
+        // A document left without a view is closed too: its lock goes with it.
+        try {
+            Reference<util::XCloseable> document(modele, UNO_QUERY);
+            if (document.is() && !modele->getCurrentController().is()) document->close(true);
+        } catch (const uno::Exception&) {
+            // Closed with its frame already.
+        }
+        impl_->RetirerVerrouDe(url, true);
     } catch (const uno::Exception& e) {
-        Echouer(e, "Fermeture du document", impl_->veilleur);
+        impl_->Echouer(e, "Fermeture du document");
     }
 }
 
@@ -427,7 +529,7 @@ void BureauLibreOffice::InsererTexte(const Texte& texte, const Texte& police, in
         Reference<text::XTextRange> position(curseur, UNO_QUERY_THROW);
         curseur->getText()->insertString(position, VersUno(texte), false);
     } catch (const uno::Exception& e) {
-        Echouer(e, "Insertion dans le document", impl_->veilleur);
+        impl_->Echouer(e, "Insertion dans le document");
     }
 }
 
@@ -440,7 +542,7 @@ void BureauLibreOffice::SelectionnerTout() {
         curseur->gotoStart(false);
         curseur->gotoEnd(true);
     } catch (const uno::Exception& e) {
-        Echouer(e, "Sélection du texte", impl_->veilleur);
+        impl_->Echouer(e, "Sélection du texte");
     }
 }
 
@@ -451,7 +553,7 @@ Texte BureauLibreOffice::Selection() {
             impl_->Modele()->getCurrentController(), UNO_QUERY_THROW);
         return DeUno(fournisseur->getViewCursor()->getString());
     } catch (const uno::Exception& e) {
-        Echouer(e, "Lecture de la sélection", impl_->veilleur);
+        impl_->Echouer(e, "Lecture de la sélection");
     }
 }
 

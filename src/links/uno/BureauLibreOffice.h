@@ -1,30 +1,39 @@
 #pragma once
 // A LibreOffice reached through UNO: the one that listens on the shared pipe when the user
-// runs one, else one started for this program on a private pipe, headless when this system
-// has no screen. The office started here is ended when this object goes, or by Terminer, but
-// for one on screen that still shows the user a document; one that died between two
-// operations is started again at the next.
+// runs one, else one started for this program on a private pipe: on screen when the office is
+// the user's (and this system has a screen), headless otherwise. The office started here is
+// ended when this object goes, or by Terminer, but for one on screen that still shows the user
+// a document; one that died between two operations is started again at the next, and one
+// that dies under an operation is told as such.
 
 #include "links/BureauOffice.h"
 
+#include <functional>
 #include <memory>
+#include <string>
 #include <sys/types.h>
 
 namespace verdane {
 
 struct OptionsOffice {
-    // The office program to start; empty: the one of this system.
+    // The office program to start; empty: the one of this system (or of `executableChoisi`).
     Texte executable;
     // The pipe of an office the user started with --accept=pipe,name=...;urp; tried first.
     // Empty: always start one.
     Texte tubePartage = "verdane";
     // Headless: forced here, or when there is no display or the office has no window toolkit.
     bool sansEcran = false;
-    // How long an office may take to answer after its start.
-    int delaiDemarrageMs = 60000;
+    // How long an office may take to answer after its start: well over a minute on a loaded
+    // machine.
+    int delaiDemarrageMs = 300000;
     // How long one operation may last before the office started here is taken for hung and
     // killed (the next operation starts another).
     int delaiOperationMs = 180000;
+    // Asked at each start of an office, when set: the office program chosen by the user (a
+    // path of this system, empty for none), and whether the office is the user's, to be shown
+    // on screen (else it runs headless).
+    std::function<std::string()> executableChoisi = nullptr;
+    std::function<bool()> officeVisible = nullptr;
 };
 
 class BureauLibreOffice : public BureauOffice {
@@ -35,6 +44,7 @@ public:
     BureauLibreOffice& operator=(const BureauLibreOffice&) = delete;
 
     bool Connecter(Texte& erreur) override;
+    Texte DocumentPerdu() override;
     int NombreCadres() override;
     void ChargerURL(const Texte& url, bool cache) override;
     bool PrendreDocumentCourant() override;
@@ -54,6 +64,12 @@ public:
     void Terminer();
     // How many offices this object has started.
     int Demarrages() const;
+    // Changes how long one operation may last from now on.
+    void PoserDelaiOperation(int delaiMs);
+    // The profile folder of the office started here and running; empty when none.
+    std::string ProfilOffice() const;
+    // True when the office started here runs headless.
+    bool SansEcran() const;
     // The process of the office started here and running, or 0.
     pid_t PidOffice() const;
 

@@ -11,8 +11,9 @@ namespace verdane {
 
 class LiensSysteme {
 public:
-    // The office program is taken from `CheminEditeur` when it names a LibreOffice of this
-    // system; `options` gives the rest.
+    // At each start of an office, the program is taken from `CheminEditeur` when it names a
+    // LibreOffice of this system (else the one of the system), and the office is shown when
+    // `editeurVisible` is set (else headless); `options` gives the rest.
     explicit LiensSysteme(Contexte& ctx, OptionsOffice options = {});
     ~LiensSysteme();
     LiensSysteme(const LiensSysteme&) = delete;

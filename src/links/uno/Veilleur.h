@@ -24,6 +24,7 @@ public:
     // True when the current or last operation was cut short.
     bool Expire() const { return expire_; }
     int DelaiMs() const { return delai_; }
+    void PoserDelai(int delaiMs) { delai_ = delaiMs; }
 
     // Marks the time of one operation.
     class Operation {
@@ -40,7 +41,7 @@ public:
 private:
     void Veiller();
 
-    const int delai_;
+    std::atomic<int> delai_;
     std::atomic<pid_t> groupe_{0};
     std::atomic<long long> debut_{0}; // steady clock in ms; 0: no operation
     std::atomic<bool> expire_{false};

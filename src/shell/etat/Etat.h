@@ -66,6 +66,14 @@ struct EnrOrganisme {
     Texte logo;  // 80, path of a picture
 };
 
+// A document that couldn't be made in the format its name asks: why, and the path its RTF is
+// kept under instead (empty when none could be kept).
+struct ConversionManquee {
+    Texte raison;
+    Texte copieRtf;
+    bool Manquee() const { return !raison.empty(); }
+};
+
 struct Etat {
     Chemins chemins;
     Options options;
@@ -108,6 +116,10 @@ struct Etat {
     // The program runs as the desktop bar: the word processor it starts is shown to the user,
     // who writes models in it; batch runs keep theirs out of sight.
     bool editeurVisible = false;
+
+    // The end of the last creation or update: empty when the document is in the format its
+    // name asks.
+    ConversionManquee conversionManquee;
 
     // Number marks of the user's locale, read once at start.
     MarquesNombre marques;

@@ -1,9 +1,11 @@
 // The link against a real LibreOffice: each test starts its own office and ends it.
 
 #include "links/FinDocument.h"
+#include "links/FormatFichier.h"
 #include "links/Liens.h"
 #include "links/uno/LiensSysteme.h"
 #include "links/uno/ProcessusOffice.h"
+#include "links/uno/Verrous.h"
 #include "utils/Chaines.h"
 #include "utils/OutilsFichiers.h"
 
@@ -51,6 +53,30 @@ bool GroupeTermine(pid_t pid) {
     return pid > 0 && ::kill(-pid, 0) == -1 && errno == ESRCH;
 }
 
+// Limits that only an office that is really stuck reaches, however loaded the machine: the
+// tests wait on what happens, not on a time.
+constexpr int kDemarrage = 300000;
+constexpr auto kAttente = std::chrono::seconds(120);
+
+// Waits until `fait` holds, for at most kAttente.
+template <typename Condition> bool Attendre(Condition fait) {
+    const auto fin = std::chrono::steady_clock::now() + kAttente;
+    while (!fait()) {
+        if (std::chrono::steady_clock::now() > fin) return false;
+        std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    }
+    return true;
+}
+
+// The lock files left in a folder.
+std::vector<std::string> Verrous(const fs::path& dossier) {
+    std::vector<std::string> verrous;
+    for (const auto& f : fs::directory_iterator(dossier))
+        if (f.path().filename().string().rfind(".~lock.", 0) == 0)
+            verrous.push_back(f.path().filename().string());
+    return verrous;
+}
+
 class LibreOfficeTest : public ::testing::Test {
 protected:
     void SetUp() override {
@@ -60,7 +86,7 @@ protected:
         fs::create_directories(dossier);
         ctx.etat.options.sautParagraphe = 0;
         ctx.etat.options.CheminEditeur = "/usr/bin/soffice";
-        liens = std::make_unique<LiensSysteme>(ctx, OptionsOffice{"", "", true, 60000});
+        liens = std::make_unique<LiensSysteme>(ctx, OptionsOffice{"", "", true, kDemarrage});
     }
     void TearDown() override {
         const pid_t pid = liens->Bureau().PidOffice();
@@ -193,17 +219,139 @@ TEST_F(LibreOfficeTest, OfficeTueAuMilieuDUnLot) {
 }
 
 TEST_F(LibreOfficeTest, OfficeFigeArreteEtRemplace) {
-    liens.reset();
-    liens = std::make_unique<LiensSysteme>(ctx, OptionsOffice{"", "", true, 60000, 3000});
     ASSERT_TRUE(liens->Office().NouveauDocument());
     const pid_t fige = liens->Bureau().PidOffice();
+    // The office stopped: the next operation can't end, whatever the time allowed.
     ::kill(-fige, SIGSTOP);
-    const auto debut = std::chrono::steady_clock::now();
-    liens->Office().LireSelection();
-    EXPECT_LT(std::chrono::steady_clock::now() - debut, std::chrono::seconds(60));
-    EXPECT_EQ(liens->Bureau().Demarrages(), 2) << "the hung office replaced";
-    EXPECT_TRUE(GroupeTermine(fige));
+    liens->Bureau().PoserDelaiOperation(1000);
+    try {
+        liens->Bureau().NombreCadres();
+        ADD_FAILURE() << "a stopped office answered";
+    } catch (const ErreurEditeur& e) {
+        EXPECT_NE(std::string(e.what()).find("ne répondait plus"), std::string::npos) << e.what();
+    }
+    liens->Bureau().PoserDelaiOperation(kDemarrage);
     ASSERT_TRUE(liens->Office().NouveauDocument());
+    EXPECT_EQ(liens->Bureau().Demarrages(), 2) << "the hung office replaced";
+    EXPECT_TRUE(Attendre([&] { return GroupeTermine(fige); }));
+}
+
+TEST_F(LibreOfficeTest, ConversionsRepeteesSansVerrouNiOfficeRestant) {
+    // An annotation, as every model with a tooltip gives one.
+    const char* rtf =
+        "{\\rtf1\\ansi Lait vendu : {\\fs22 {\\*\\atrfstart 47317183}612 000}"
+        "{\\cs15\\v\\fs20 {\\*\\atrfend 47317183}{\\*\\atnid MRL}{\\*\\atnauthor "
+        "Titre }\\chatn {\\*\\annotation {\\*\\atnref 47317183}{Le texte}}} litres\\par}";
+    for (int fois = 0; fois < 2; ++fois) {
+        for (const char* nom : {"r.doc", "r.odt", "r.docx", "r.pdf"}) {
+            std::ofstream(dossier / nom) << rtf;
+            TerminerDocument(ctx, "", Chemin(nom), false, true);
+            EXPECT_FALSE(ctx.etat.conversionManquee.Manquee())
+                << nom << " " << ctx.etat.conversionManquee.raison;
+            EXPECT_TRUE(FichierAuFormat(Chemin(nom), FormatDuChemin(Chemin(nom)))) << nom;
+            EXPECT_EQ(Verrous(dossier), std::vector<std::string>{}) << nom << " " << fois;
+        }
+    }
+    EXPECT_FALSE(fs::exists(dossier / "r.rtf"));
+    EXPECT_TRUE(u.messages.empty()) << u.messages[0];
+    for (const char* nom : {"r.doc", "r.odt", "r.docx"})
+        EXPECT_EQ(Relire(Chemin(nom)).substr(0, 20), "Lait vendu : 612 000") << nom;
+    EXPECT_EQ(Verrous(dossier), std::vector<std::string>{}) << "read back and closed";
+    EXPECT_EQ(liens->Bureau().Demarrages(), 1);
+}
+
+TEST_F(LibreOfficeTest, OfficeMortSousUnAppelDitCommeTel) {
+    std::ofstream(dossier / "r.rtf") << "{\\rtf1\\ansi Texte\\par}";
+    ASSERT_TRUE(liens->Office().OuvrirDocumentCache(Chemin("r.rtf")));
+    ASSERT_TRUE(liens->Bureau().PrendreDocumentCourant());
+    const pid_t office = liens->Bureau().PidOffice();
+    // Stopped, then killed: the save can't end before the office is gone.
+    ::kill(-office, SIGSTOP);
+    std::thread tueur([office] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(500));
+        ::kill(-office, SIGKILL);
+    });
+    try {
+        liens->Bureau().StockerSous(CheminVersURL(Chemin("r.doc")), "MS Word 97", false);
+        ADD_FAILURE() << "saved by a dead office";
+    } catch (const ErreurEditeur& e) {
+        EXPECT_NE(std::string(e.what()).find("LibreOffice s'est arrêté brutalement"),
+                  std::string::npos)
+            << e.what();
+    }
+    tueur.join();
+    EXPECT_NE(liens->Bureau().DocumentPerdu().find("le document en cours est perdu"),
+              std::string::npos);
+}
+
+TEST_F(LibreOfficeTest, DocumentPerduEntreOuvertureEtSauvegarde) {
+    std::ofstream(dossier / "r.doc") << "{\\rtf1\\ansi Texte\\par}";
+    ASSERT_TRUE(liens->Office().OuvrirDocumentCache(Chemin("r.doc")));
+    const pid_t office = liens->Bureau().PidOffice();
+    ::kill(-office, SIGKILL);
+    // The office is started again, empty: the save says why the document isn't there.
+    EXPECT_FALSE(SauverSous(ctx, true, Editeur::OpenOffice, Chemin("r.doc"), false));
+    EXPECT_NE(liens->Office().DerniereErreur().find("LibreOffice s'est arrêté brutalement"),
+              std::string::npos)
+        << liens->Office().DerniereErreur();
+}
+
+TEST_F(LibreOfficeTest, VerrouDUnOfficeDisparuRetireAvantOuverture) {
+    std::ofstream(dossier / "r.doc") << "{\\rtf1\\ansi Texte\\par}";
+    // Left by an office of a run that was killed: its profile is gone.
+    std::ofstream(dossier / ".~lock.r.doc#")
+        << ",verdane,poste,24.11.2026 01:00,file://" + PrefixeProfils() + "1-disparu;";
+    TerminerDocument(ctx, "", Chemin("r.doc"), false, true);
+    EXPECT_FALSE(ctx.etat.conversionManquee.Manquee()) << ctx.etat.conversionManquee.raison;
+    EXPECT_TRUE(FichierAuFormat(Chemin("r.doc"), FormatDocument::Doc));
+    EXPECT_EQ(Verrous(dossier), std::vector<std::string>{});
+}
+
+TEST_F(LibreOfficeTest, FichiersTemporairesDansLeProfilPrive) {
+    ASSERT_TRUE(liens->Office().NouveauDocument());
+    const std::string profil = liens->Bureau().ProfilOffice();
+    ASSERT_EQ(profil.rfind(PrefixeProfils() + std::to_string(::getpid()) + "-", 0), 0u) << profil;
+    std::ifstream environ("/proc/" + std::to_string(liens->Bureau().PidOffice()) + "/environ");
+    std::string variable;
+    bool vu = false;
+    while (std::getline(environ, variable, '\0'))
+        vu = vu || variable == "TMPDIR=" + (fs::path(profil) / "tmp").string();
+    EXPECT_TRUE(vu);
+    liens->Bureau().Terminer();
+    EXPECT_FALSE(fs::exists(profil));
+}
+
+TEST_F(LibreOfficeTest, ProgrammeChoisiLuAuDemarrageDeLOffice) {
+    // The links are made before the options are read: the choice made since is the one used.
+    const fs::path faux = dossier / "soffice";
+    std::ofstream(faux) << "#!/bin/sh\nexit 3\n";
+    fs::permissions(faux, fs::perms::owner_all);
+    ctx.etat.options.CheminEditeur = CheminTexte(faux);
+    EXPECT_FALSE(liens->Office().NouveauDocument());
+    ASSERT_EQ(u.messages.size(), 1u);
+    EXPECT_NE(u.messages[0].find(CheminTexte(faux) + ") s'est arrêté au démarrage"),
+              std::string::npos)
+        << u.messages[0];
+    // A choice that names another program: the office of the system.
+    ctx.etat.options.CheminEditeur = "C:\\Programmes\\WINWORD.EXE";
+    EXPECT_TRUE(liens->Office().NouveauDocument()) << u.messages.back();
+}
+
+TEST_F(LibreOfficeTest, OfficeCacheHorsDuBureau) {
+    // A batch run keeps its office out of sight even with a screen; the bar's is shown when
+    // there is a screen to show it on.
+    liens.reset();
+    liens = std::make_unique<LiensSysteme>(ctx, OptionsOffice{"", "", false, kDemarrage});
+    ctx.etat.editeurVisible = false;
+    ASSERT_TRUE(liens->Office().NouveauDocument());
+    EXPECT_TRUE(liens->Bureau().SansEcran());
+    const char* ecran = std::getenv("DISPLAY");
+    if (!ecran || !*ecran) {
+        liens->Bureau().Terminer();
+        ctx.etat.editeurVisible = true;
+        ASSERT_TRUE(liens->Office().NouveauDocument());
+        EXPECT_TRUE(liens->Bureau().SansEcran()) << "no screen: headless all the same";
+    }
 }
 
 TEST_F(LibreOfficeTest, ErreursDitesClairement) {
@@ -217,7 +365,7 @@ TEST_F(LibreOfficeTest, ErreursDitesClairement) {
     liens->Office().FermerDocument(7);
 
     // A program that isn't an office.
-    BureauLibreOffice faux(OptionsOffice{"/bin/false", "", true, 20000});
+    BureauLibreOffice faux(OptionsOffice{"/bin/false", "", true, kDemarrage});
     Texte erreur;
     EXPECT_FALSE(faux.Connecter(erreur));
     EXPECT_NE(erreur.find("s'est arrêté au démarrage"), Texte::npos) << erreur;
@@ -229,32 +377,100 @@ TEST_F(LibreOfficeTest, ErreursDitesClairement) {
 namespace verdane {
 namespace {
 
-// A program killed outright doesn't leave its office behind.
+// A program killed outright doesn't leave its office behind, nor its profile.
 TEST(Gardien, OfficeFiniQuandLeProgrammeMeurt) {
     int tube[2];
     ASSERT_EQ(::pipe(tube), 0);
     const pid_t enfant = ::fork();
     if (enfant == 0) {
         ::close(tube[0]);
-        BureauLibreOffice bureau(OptionsOffice{"", "", true, 60000});
+        BureauLibreOffice bureau(OptionsOffice{"", "", true, kDemarrage});
         Texte erreur;
         const pid_t office = bureau.Connecter(erreur) ? bureau.PidOffice() : 0;
+        const std::string profil = bureau.ProfilOffice();
         [[maybe_unused]] auto n = ::write(tube[1], &office, sizeof office);
+        // Ended by a line end: the guardian holds this pipe open too.
+        n = ::write(tube[1], (profil + "\n").c_str(), profil.size() + 1);
+        ::close(tube[1]);
         ::pause();
         ::_exit(0);
     }
     ::close(tube[1]);
-    pollfd attente{tube[0], POLLIN, 0};
     pid_t office = 0;
-    if (::poll(&attente, 1, 90000) == 1) [[maybe_unused]]
-        auto n = ::read(tube[0], &office, sizeof office);
+    std::string profil;
+    pollfd attente{tube[0], POLLIN, 0};
+    if (::poll(&attente, 1, kDemarrage) == 1) {
+        [[maybe_unused]] auto n = ::read(tube[0], &office, sizeof office);
+        char c = 0;
+        while (::read(tube[0], &c, 1) == 1 && c != '\n') profil += c;
+    }
     ::close(tube[0]);
+    // Killed as a terminal or a time limit does: the whole group of the program.
+    ::kill(enfant, SIGTERM);
     ::kill(enfant, SIGKILL);
     int statut = 0;
     ::waitpid(enfant, &statut, 0);
     ASSERT_GT(office, 0);
-    for (int i = 0; i < 150 && !GroupeTermine(office); ++i) ::usleep(100000);
-    EXPECT_TRUE(GroupeTermine(office));
+    ASSERT_FALSE(profil.empty());
+    EXPECT_TRUE(Attendre([&] { return GroupeTermine(office); }));
+    EXPECT_TRUE(Attendre([&] { return !fs::exists(profil); })) << profil;
+}
+
+// What a run killed with its guardian left is cleaned by the next.
+TEST(Restes, NettoyesParLeDemarrageSuivant) {
+    const pid_t mort = ::fork();
+    if (mort == 0) ::_exit(0);
+    int statut = 0;
+    ::waitpid(mort, &statut, 0);
+    const std::string mortNom = std::to_string(mort);
+    const fs::path profilMort = PrefixeProfils() + mortNom + "-abcdef";
+    const fs::path profilVivant = PrefixeProfils() + "1-abcdef"; // init never goes
+    fs::create_directories(profilMort / "tmp");
+    fs::create_directories(profilVivant);
+    const std::string uid = std::to_string(::getuid());
+    const fs::path socketMort = "/tmp/OSL_PIPE_" + uid + "_verdane_" + uid + "_" + mortNom + "_1";
+    std::ofstream(socketMort) << "";
+    NettoyerRestes();
+    EXPECT_FALSE(fs::exists(profilMort));
+    EXPECT_FALSE(fs::exists(socketMort));
+    EXPECT_TRUE(fs::exists(profilVivant));
+    fs::remove_all(profilVivant);
+}
+
+TEST(Verrous, LeProfilQuiTientLeDocument) {
+    EXPECT_EQ(FichierVerrou("/tmp/a b/r.doc"), "/tmp/a b/.~lock.r.doc#");
+    EXPECT_EQ(ProfilDuVerrou(",Jean,poste,24.11.2026 01:00,file:///tmp/verdane-office-12-ab;"),
+              "/tmp/verdane-office-12-ab");
+    // Escaped separators in the fields before; an escaped path.
+    EXPECT_EQ(ProfilDuVerrou(",Dupont\\, Jean,poste\\;1,date,file:///home/j/Mes%20profils/;"),
+              "/home/j/Mes profils");
+    EXPECT_EQ(ProfilDuVerrou(",Jean,poste,date;"), "");
+    EXPECT_EQ(ProfilDuVerrou(",Jean,poste,date,https://ailleurs/;"), "");
+}
+
+TEST(Verrous, SeulsCeuxDeNosOfficesSontRetires) {
+    const fs::path dossier =
+        fs::temp_directory_path() / ("verdane-verrous-" + std::to_string(::getpid()));
+    fs::create_directories(dossier);
+    const std::string document = (dossier / "r.doc").string();
+    const std::string verrou = FichierVerrou(document);
+    const std::string prefixe = PrefixeProfils();
+    const fs::path vivant = prefixe + "1-vivant";
+    fs::create_directories(vivant);
+    auto poser = [&](const std::string& profil) {
+        std::ofstream(verrou) << ",Jean,poste,date,file://" + profil + ";";
+    };
+    poser("/home/jean/.config/libreoffice/4");
+    EXPECT_FALSE(RetirerVerrou(document, "", prefixe)) << "the user's own office";
+    poser(vivant.string());
+    EXPECT_FALSE(RetirerVerrou(document, "", prefixe)) << "an office of another run, running";
+    EXPECT_TRUE(RetirerVerrou(document, vivant.string(), prefixe)) << "this run's office";
+    poser(prefixe + "1-parti/user");
+    EXPECT_TRUE(RetirerVerrou(document, "", prefixe)) << "an office whose profile is gone";
+    EXPECT_FALSE(fs::exists(verrou));
+    EXPECT_FALSE(RetirerVerrou(document, "", prefixe)) << "no lock";
+    fs::remove_all(vivant);
+    fs::remove_all(dossier);
 }
 
 TEST(UrlPourOffice, AccentsEnUtf8EtFinsDeCheminEchappees) {

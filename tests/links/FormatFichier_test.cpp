@@ -1,0 +1,49 @@
+#include "links/Faux.h"
+#include "links/FormatFichier.h"
+#include "support/DossierTemporaire.h"
+
+#include <gtest/gtest.h>
+
+namespace verdane::essai {
+namespace {
+
+TEST(FormatFichier, ChaqueFormatSeReconnaitASesOctets) {
+    for (FormatDocument f : {FormatDocument::Rtf, FormatDocument::Doc, FormatDocument::Odt,
+                             FormatDocument::Docx, FormatDocument::Pdf})
+        EXPECT_EQ(FormatDesOctets(OctetsDuFormat(f)), f) << NomFormat(f);
+}
+
+TEST(FormatFichier, CeQuiNEnAQueLeNomNEstPasLeFormat) {
+    EXPECT_EQ(FormatDesOctets(""), FormatDocument::Autre);
+    EXPECT_EQ(FormatDesOctets("{\\rt"), FormatDocument::Autre);
+    EXPECT_EQ(FormatDesOctets(" {\\rtf1}"), FormatDocument::Autre) << "nothing before the group";
+    // The head of a compound file cut short.
+    EXPECT_EQ(FormatDesOctets(OctetsDuFormat(FormatDocument::Doc).substr(0, 7)),
+              FormatDocument::Autre);
+    // A zip that is neither: a spreadsheet, a text template, a zip cut in its header.
+    std::string tableur = OctetsDuFormat(FormatDocument::Odt);
+    tableur.replace(tableur.find(".text"), 5, ".sheet");
+    EXPECT_EQ(FormatDesOctets(tableur), FormatDocument::Autre);
+    std::string modele = OctetsDuFormat(FormatDocument::Odt);
+    modele.insert(modele.find("content.xml") - 30, "-template");
+    EXPECT_EQ(FormatDesOctets(modele), FormatDocument::Autre);
+    EXPECT_EQ(FormatDesOctets(OctetsDuFormat(FormatDocument::Odt).substr(0, 34)),
+              FormatDocument::Autre);
+}
+
+TEST(FormatFichier, LeFichierEstLuSurDisque) {
+    test::DossierTemporaire d;
+    const Texte doc = d.Ecrire("r.doc", OctetsDuFormat(FormatDocument::Doc));
+    const Texte rtfSousNomDoc = d.Ecrire("s.doc", OctetsDuFormat(FormatDocument::Rtf));
+    // A Word 2007 document names its main part in its directory, at its end.
+    const Texte docx = d.Ecrire("r.docx", OctetsDuFormat(FormatDocument::Docx));
+    EXPECT_TRUE(FichierAuFormat(doc, FormatDocument::Doc));
+    EXPECT_FALSE(FichierAuFormat(rtfSousNomDoc, FormatDocument::Doc));
+    EXPECT_TRUE(FichierAuFormat(docx, FormatDocument::Docx));
+    EXPECT_FALSE(FichierAuFormat(d / "absent.pdf", FormatDocument::Pdf));
+    EXPECT_FALSE(FichierAuFormat(d / "absent.lwp", FormatDocument::Lwp));
+    EXPECT_TRUE(FichierAuFormat(rtfSousNomDoc, FormatDocument::Lwp)) << "not told apart";
+}
+
+} // namespace
+} // namespace verdane::essai
