@@ -1,13 +1,12 @@
 #include "graphs/EditeurGraph.h"
 
+#include "data/SeriesProposees.h"
 #include "graphs/CodeGraph.h"
 #include "graphs/FichierGraph.h"
 #include "utils/Chaines.h"
 #include "utils/OutilsFichiers.h"
 
 #include <algorithm>
-#include <filesystem>
-#include <system_error>
 
 namespace verdane {
 
@@ -233,20 +232,7 @@ std::vector<NoeudGraph> EditeurGraph::SeriesDuGraphe() const {
 }
 
 ArbreCatalogue EditeurGraph::SeriesProposees() const {
-    ArbreCatalogue arbre;
-    arbre.racine.texte = "Séries proposées";
-    std::vector<Texte> fichiers;
-    std::error_code ec;
-    const auto dossier = CheminSysteme(ctx_.etat.chemins.RepDatacfg);
-    for (std::filesystem::directory_iterator it(dossier, ec), fin; !ec && it != fin;
-         it.increment(ec)) {
-        const Texte nom = CheminTexte(it->path().filename());
-        if (FinitParSansCasse(nom, ".CFG") && it->is_regular_file(ec))
-            fichiers.push_back(ctx_.etat.chemins.RepDatacfg + nom);
-    }
-    std::sort(fichiers.begin(), fichiers.end());
-    for (const Texte& f : fichiers) ChargerCatalogue(f, arbre);
-    return arbre;
+    return verdane::SeriesProposees(ctx_.etat.chemins.RepDatacfg);
 }
 
 void EditeurGraph::Selectionner(const Texte& cle) {

@@ -149,14 +149,14 @@ BilanLot ExecuterLot(Contexte& ctx, const OptionsLot& o, const Environnement& en
         erreur("Modèle de document introuvable : " + o.modele + ".");
         return finir(kSortieUsage);
     }
+    if (DossierExiste(o.resultat)) {
+        erreur("Le document résultat est un répertoire : " + o.resultat + ".");
+        return finir(kSortieEchec);
+    }
     if (FichierExiste(o.resultat) && !o.remplacer) {
         erreur("Le document demandé existe déjà : " + o.resultat + ".",
                "Ajoutez --remplacer pour le remplacer.");
         return finir(kSortieUsage);
-    }
-    if (DossierExiste(o.resultat)) {
-        Erreur(ctx, "Le document résultat est un répertoire : " + o.resultat + ".");
-        return finir(kSortieEchec);
     }
     if (!DossierExiste(DossierParent(o.resultat).empty() ? Texte(".")
                                                          : DossierParent(o.resultat))) {

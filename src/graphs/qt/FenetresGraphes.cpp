@@ -5,19 +5,9 @@
 #include "graphs/qt/FrmGraphik.h"
 #include "utils/Chaines.h"
 
-#include <QGuiApplication>
+#include "utils/qt/Ecran.h"
 
 namespace verdane::qt {
-
-namespace {
-
-bool EcranDisponible() {
-    const QString plateforme = QGuiApplication::platformName();
-    return !plateforme.isEmpty() && plateforme != QLatin1String("offscreen") &&
-           plateforme != QLatin1String("minimal");
-}
-
-} // namespace
 
 int OuvrirFrmGraphik(Contexte& ctx, const std::vector<Texte>& arguments) {
     Texte titre = "Insertion de graphique";

@@ -29,24 +29,20 @@ namespace {
 constexpr int kRoleCle = Qt::UserRole;
 const QSize kTailleApercu(kLargeurGraphique, kHauteurGraphique);
 
-Texte DepuisQString(const QString& s) {
-    return Utf8VersCp1252(s.toStdString());
-}
-
 Texte CleDe(const QTreeWidgetItem* item) {
-    return item ? DepuisQString(item->data(0, kRoleCle).toString()) : Texte{};
+    return item ? DepuisQt(item->data(0, kRoleCle).toString()) : Texte{};
 }
 
 QTreeWidgetItem* Noeud(QTreeWidgetItem* parent, const Texte& cle, const Texte& texte) {
-    auto* item = new QTreeWidgetItem(parent, {VersQString(texte)});
-    item->setData(0, kRoleCle, VersQString(cle));
+    auto* item = new QTreeWidgetItem(parent, {VersQt(texte)});
+    item->setData(0, kRoleCle, VersQt(cle));
     return item;
 }
 
 QTreeWidgetItem* Racine(QTreeWidget* arbre, const Texte& cle, const Texte& texte) {
     arbre->clear();
-    auto* racine = new QTreeWidgetItem(arbre, {VersQString(texte)});
-    racine->setData(0, kRoleCle, VersQString(cle));
+    auto* racine = new QTreeWidgetItem(arbre, {VersQt(texte)});
+    racine->setData(0, kRoleCle, VersQt(cle));
     racine->setExpanded(true);
     return racine;
 }
@@ -57,7 +53,7 @@ void AjouterCatalogue(QTreeWidgetItem* parent, const NoeudCatalogue& n) {
 }
 
 QString Libelle(const char* texte) {
-    return VersQString(texte);
+    return VersQt(texte);
 }
 
 QLineEdit* Boite(QWidget* parent, const char* nom, int largeurMax = 0) {
@@ -70,7 +66,7 @@ QLineEdit* Boite(QWidget* parent, const char* nom, int largeurMax = 0) {
 QComboBox* Liste(QWidget* parent, const QString& nom, const std::vector<Texte>& textes) {
     auto* c = new QComboBox(parent);
     c->setObjectName(nom);
-    for (const Texte& t : textes) c->addItem(VersQString(t));
+    for (const Texte& t : textes) c->addItem(VersQt(t));
     return c;
 }
 
@@ -81,9 +77,9 @@ QCheckBox* Case(QWidget* parent, const QString& nom, const QString& texte) {
 }
 
 QPushButton* Bouton(QWidget* parent, const char* nom, const char* texte, const char* aide) {
-    auto* b = new QPushButton(VersQString(texte), parent);
+    auto* b = new QPushButton(VersQt(texte), parent);
     b->setObjectName(nom);
-    b->setToolTip(VersQString(aide));
+    b->setToolTip(VersQt(aide));
     b->setAutoDefault(false);
     return b;
 }
@@ -94,12 +90,12 @@ FrmGraphik::FrmGraphik(Contexte& ctx, const Texte& titre, int graphe, QWidget* p
     : QDialog(parent), ctx_(ctx), editeur_(ctx), ancienneSurface_(ctx.etat.graphes.graphCourant),
       minuterie_(new QTimer(this)) {
     setObjectName("FrmGraphik");
-    setWindowTitle(VersQString("Visionneuse de graphiques"));
+    setWindowTitle(VersQt("Visionneuse de graphiques"));
     minuterie_->setSingleShot(true);
     minuterie_->setInterval(120);
     connect(minuterie_, &QTimer::timeout, this, [this] { Dessiner(); });
 
-    lblTitre = new QLabel(VersQString(titre), this);
+    lblTitre = new QLabel(VersQt(titre), this);
     lblTitre->setObjectName("lblTitre");
     lblTitre->setAlignment(Qt::AlignCenter);
     QFont gras = lblTitre->font();
@@ -121,15 +117,15 @@ FrmGraphik::FrmGraphik(Contexte& ctx, const Texte& titre, int graphe, QWidget* p
 
     Onglets = new QTabWidget(this);
     Onglets->setObjectName("Onglets");
-    Onglets->addTab(OngletDefinition(), VersQString(TitreOngletDefinition()));
+    Onglets->addTab(OngletDefinition(), VersQt(TitreOngletDefinition()));
     imgApercu = new QLabel(this);
     imgApercu->setObjectName("imgApercu");
     imgApercu->setAlignment(Qt::AlignCenter);
     imgApercu->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
     imgApercu->setToolTip(
-        VersQString("Le graphique avec les réglages en cours; l'onglet de définition les "
-                    "change."));
-    Onglets->addTab(imgApercu, VersQString(TitreOngletApercu(ctx.etat.graphes.avecArguments)));
+        VersQt("Le graphique avec les réglages en cours; l'onglet de définition les "
+               "change."));
+    Onglets->addTab(imgApercu, VersQt(TitreOngletApercu(ctx.etat.graphes.avecArguments)));
 
     cmdInserer = Bouton(this, "cmdInserer", "Insérer",
                         "Insérer le code du graphique dans le document en cours");
@@ -192,10 +188,9 @@ QWidget* FrmGraphik::OngletDefinition() {
     txtTitre->setMaxLength(static_cast<int>(kLargeurTitreGraph));
     txtTailleTitre = Boite(page, "txtTailleTitre", 50);
     ComboType = Liste(page, "ComboType", TextesTypesGraph());
-    CheckLegend = Case(page, "CheckLegend", VersQString("Légende"));
-    CheckEmpile = Case(page, "CheckEmpile", VersQString("Séries empilées"));
-    CheckInversionDataSeries =
-        Case(page, "CheckInversionDataSeries", VersQString("Séries en lignes"));
+    CheckLegend = Case(page, "CheckLegend", VersQt("Légende"));
+    CheckEmpile = Case(page, "CheckEmpile", VersQt("Séries empilées"));
+    CheckInversionDataSeries = Case(page, "CheckInversionDataSeries", VersQt("Séries en lignes"));
     TextCommentr = Boite(page, "TextCommentr");
     TextCommentr->setMaxLength(static_cast<int>(kLargeurCommentaire));
     txtEspaceBarres = Boite(page, "txtEspaceBarres", 50);
@@ -204,11 +199,11 @@ QWidget* FrmGraphik::OngletDefinition() {
     const char* orientations[] = {"du titre", "du commentaire"};
     for (int k = 0; k < 2; ++k) {
         CheckRetourTexte[k] = Case(page, QStringLiteral("CheckRetourTexte%1").arg(k),
-                                   k == 0 ? VersQString("Retour à la ligne du titre")
-                                          : VersQString("Retour à la ligne de la légende"));
+                                   k == 0 ? VersQt("Retour à la ligne du titre")
+                                          : VersQt("Retour à la ligne de la légende"));
         ComboOrientext[k] =
             Liste(page, QStringLiteral("ComboOrientext%1").arg(k), TextesOrientations());
-        ComboOrientext[k]->setToolTip(VersQString("Orientation ") + VersQString(orientations[k]));
+        ComboOrientext[k]->setToolTip(VersQt("Orientation ") + VersQt(orientations[k]));
     }
 
     auto* general = new QGridLayout;
@@ -225,9 +220,9 @@ QWidget* FrmGraphik::OngletDefinition() {
     general->addWidget(CheckInversionDataSeries, 3, 3);
     general->addWidget(new QLabel(Libelle("Espaces : barres"), page), 4, 0);
     general->addWidget(txtEspaceBarres, 4, 1);
-    general->addWidget(new QLabel(VersQString("années"), page), 4, 2);
+    general->addWidget(new QLabel(VersQt("années"), page), 4, 2);
     general->addWidget(txtEspaceAnnees, 4, 3);
-    general->addWidget(new QLabel(VersQString("séries"), page), 4, 4);
+    general->addWidget(new QLabel(VersQt("séries"), page), 4, 4);
     general->addWidget(txtEspaceSeries, 4, 5);
     general->addWidget(CheckRetourTexte[0], 5, 0, 1, 2);
     general->addWidget(new QLabel(Libelle("Orientation du titre :"), page), 5, 2);
@@ -252,7 +247,7 @@ QWidget* FrmGraphik::OngletDefinition() {
         txtAxeSize[ua]->setObjectName(QStringLiteral("txtAxeSize%1").arg(a));
         txtEpaisseurAxe[ua] = Boite(cadreAxes, "txtEpaisseurAxe", 50);
         txtEpaisseurAxe[ua]->setObjectName(QStringLiteral("txtEpaisseurAxe%1").arg(a));
-        axes->addWidget(new QLabel(VersQString(nomsAxes[a]), cadreAxes), a + 1, 0);
+        axes->addWidget(new QLabel(VersQt(nomsAxes[a]), cadreAxes), a + 1, 0);
         axes->addWidget(txtAxe[ua], a + 1, 1);
         axes->addWidget(txtAxeSize[ua], a + 1, 2);
         axes->addWidget(txtEpaisseurAxe[ua], a + 1, 3);
@@ -264,7 +259,7 @@ QWidget* FrmGraphik::OngletDefinition() {
     TreeViewSeriesD = new QTreeWidget(page);
     TreeViewSeriesD->setObjectName("TreeViewSeriesD");
     TreeViewSeriesD->setHeaderHidden(true);
-    TreeViewSeriesD->setToolTip(VersQString("Double-clic : définition de la série"));
+    TreeViewSeriesD->setToolTip(VersQt("Double-clic : définition de la série"));
     cmdCopy = Bouton(page, "cmdCopy", ">>", "Ajouter la série proposée au graphique");
     cmdRetirer = Bouton(page, "cmdRetirer", "<<", "Retirer la série du graphique");
     auto* fleches = new QVBoxLayout;
@@ -276,7 +271,7 @@ QWidget* FrmGraphik::OngletDefinition() {
     for (int i = 0; i < kMaxSeriesGraph; ++i) {
         auto*& c = ComboTypeIndiv[static_cast<std::size_t>(i)];
         c = Liste(page, QStringLiteral("ComboTypeIndiv%1").arg(i + 1), TextesTypesSerie());
-        c->setToolTip(VersQString("Type de la série %1 dans la combinaison").arg(i + 1));
+        c->setToolTip(VersQt("Type de la série %1 dans la combinaison").arg(i + 1));
         typesSeries->addWidget(c);
     }
     typesSeries->addStretch();
@@ -353,8 +348,8 @@ void FrmGraphik::RemplirSeries() {
     for (const NoeudGraph& n : editeur_.SeriesDuGraphe()) {
         QTreeWidgetItem* item = Noeud(racine, n.cle, n.texte);
         if (g && n.cle != "vide") {
-            item->setToolTip(
-                0, VersQString(InfoBulleSerie(g->series[static_cast<std::size_t>(i)], i + 1)));
+            item->setToolTip(0,
+                             VersQt(InfoBulleSerie(g->series[static_cast<std::size_t>(i)], i + 1)));
             ++i;
         }
     }
@@ -367,24 +362,24 @@ void FrmGraphik::MontrerGraphe() {
     chargement_ = true;
     const ModeleGraph* g = editeur_.Modele();
     const ControlesGraph c = ChargerDialogue(g ? *g : ModeleGraph{});
-    txtTitre->setText(VersQString(c.txtTitre));
-    txtTailleTitre->setText(VersQString(c.txtTailleTitre));
+    txtTitre->setText(VersQt(c.txtTitre));
+    txtTailleTitre->setText(VersQt(c.txtTailleTitre));
     ComboType->setCurrentIndex(c.ComboType);
     CheckLegend->setChecked(c.CheckLegend);
     CheckEmpile->setChecked(c.CheckEmpile);
     CheckInversionDataSeries->setChecked(c.CheckInversionDataSeries);
-    TextCommentr->setText(VersQString(c.TextCommentr));
-    txtEspaceBarres->setText(VersQString(c.txtEspaceBarres));
-    txtEspaceAnnees->setText(VersQString(c.txtEspaceAnnees));
-    txtEspaceSeries->setText(VersQString(c.txtEspaceSeries));
+    TextCommentr->setText(VersQt(c.TextCommentr));
+    txtEspaceBarres->setText(VersQt(c.txtEspaceBarres));
+    txtEspaceAnnees->setText(VersQt(c.txtEspaceAnnees));
+    txtEspaceSeries->setText(VersQt(c.txtEspaceSeries));
     for (std::size_t k = 0; k < 2; ++k) {
         CheckRetourTexte[k]->setChecked(c.CheckRetourTexte[k]);
         ComboOrientext[k]->setCurrentIndex(c.ComboOrientext[k]);
     }
     for (std::size_t a = 0; a < 4; ++a) {
-        txtAxe[a]->setText(VersQString(c.txtAxe[a]));
-        txtAxeSize[a]->setText(VersQString(c.txtAxeSize[a]));
-        txtEpaisseurAxe[a]->setText(VersQString(c.txtEpaisseurAxe[a]));
+        txtAxe[a]->setText(VersQt(c.txtAxe[a]));
+        txtAxeSize[a]->setText(VersQt(c.txtAxeSize[a]));
+        txtEpaisseurAxe[a]->setText(VersQt(c.txtEpaisseurAxe[a]));
     }
     for (std::size_t i = 0; i < c.ComboTypeIndiv.size(); ++i)
         ComboTypeIndiv[i]->setCurrentIndex(c.ComboTypeIndiv[i]);
@@ -398,20 +393,20 @@ void FrmGraphik::SauverDialogueForme() {
     ModeleGraph* g = editeur_.Modele();
     if (chargement_ || g == nullptr || CleSelectionnee() == "graph0") return;
     ControlesGraph c = ChargerDialogue(*g);
-    c.txtTitre = DepuisQString(txtTitre->text());
+    c.txtTitre = DepuisQt(txtTitre->text());
     c.ComboType = ComboType->currentIndex();
     c.CheckLegend = CheckLegend->isChecked();
     c.CheckEmpile = CheckEmpile->isChecked();
     c.CheckInversionDataSeries = CheckInversionDataSeries->isChecked();
-    c.TextCommentr = DepuisQString(TextCommentr->text());
-    c.txtEspaceBarres = DepuisQString(txtEspaceBarres->text());
-    c.txtEspaceAnnees = DepuisQString(txtEspaceAnnees->text());
-    c.txtEspaceSeries = DepuisQString(txtEspaceSeries->text());
+    c.TextCommentr = DepuisQt(TextCommentr->text());
+    c.txtEspaceBarres = DepuisQt(txtEspaceBarres->text());
+    c.txtEspaceAnnees = DepuisQt(txtEspaceAnnees->text());
+    c.txtEspaceSeries = DepuisQt(txtEspaceSeries->text());
     for (std::size_t k = 0; k < 2; ++k) {
         c.CheckRetourTexte[k] = CheckRetourTexte[k]->isChecked();
         c.ComboOrientext[k] = ComboOrientext[k]->currentIndex();
     }
-    for (std::size_t a = 0; a < 4; ++a) c.txtAxe[a] = DepuisQString(txtAxe[a]->text());
+    for (std::size_t a = 0; a < 4; ++a) c.txtAxe[a] = DepuisQt(txtAxe[a]->text());
     for (std::size_t i = 0; i < c.ComboTypeIndiv.size(); ++i)
         c.ComboTypeIndiv[i] = ComboTypeIndiv[i]->currentIndex();
     const bool autreTitre = Rogner(g->titre) != Rogner(c.txtTitre);
@@ -420,7 +415,7 @@ void FrmGraphik::SauverDialogueForme() {
     if (autreTitre) {
         if (QTreeWidgetItem* item = TreeViewGraph->currentItem()) {
             const Texte titre = Rogner(g->titre);
-            item->setText(0, VersQString(titre.empty() ? Texte("Sans titre") : titre));
+            item->setText(0, VersQt(titre.empty() ? Texte("Sans titre") : titre));
         }
     }
     if (ancienType != g->typeGraph) RemplirSeries();
@@ -428,19 +423,19 @@ void FrmGraphik::SauverDialogueForme() {
 }
 
 void FrmGraphik::ValiderTailleBoite(QLineEdit* boite, std::int16_t valeur) {
-    const Texte saisie = DepuisQString(boite->text());
+    const Texte saisie = DepuisQt(boite->text());
     const Texte gardee = ValiderTaille(ctx_.utilisateur, saisie, std::to_string(valeur));
     if (gardee != saisie) {
-        boite->setText(VersQString(gardee));
+        boite->setText(VersQt(gardee));
         return;
     }
     ModeleGraph* g = editeur_.Modele();
     if (chargement_ || g == nullptr) return;
     ControlesGraph c = ChargerDialogue(*g);
-    c.txtTailleTitre = DepuisQString(txtTailleTitre->text());
+    c.txtTailleTitre = DepuisQt(txtTailleTitre->text());
     for (std::size_t a = 0; a < 4; ++a) {
-        c.txtAxeSize[a] = DepuisQString(txtAxeSize[a]->text());
-        c.txtEpaisseurAxe[a] = DepuisQString(txtEpaisseurAxe[a]->text());
+        c.txtAxeSize[a] = DepuisQt(txtAxeSize[a]->text());
+        c.txtEpaisseurAxe[a] = DepuisQt(txtEpaisseurAxe[a]->text());
     }
     SauverDialogue(c, *g);
     txtTailleTitre->setText(QString::number(g->tailleTitre)); // a size above 50 comes back

@@ -15,34 +15,25 @@
 
 namespace verdane::qt {
 
-namespace {
-
-Texte DepuisQString(const QString& s) {
-    return Utf8VersCp1252(s.toStdString());
-}
-
-} // namespace
-
 FrmSerieGraph::FrmSerieGraph(PortUtilisateur& utilisateur, const SerieGraph& serie, int i,
                              QWidget* parent)
     : QDialog(parent), utilisateur_(utilisateur) {
     setObjectName("FrmSerieGraph");
-    setWindowTitle(VersQString(TitreDialogueSerie(i)));
+    setWindowTitle(VersQt(TitreDialogueSerie(i)));
     const DialogueSerie d = ChargerSerie(serie);
     couleur_ = d.couleur;
 
-    txtNom = new QLineEdit(VersQString(d.nom), this);
+    txtNom = new QLineEdit(VersQt(d.nom), this);
     txtNom->setObjectName("txtNom");
     txtNom->setMaxLength(static_cast<int>(kLargeurNomSerie));
     ComboBrosse = new QComboBox(this);
     ComboBrosse->setObjectName("ComboBrosse");
-    ComboBrosse->addItems(
-        {QStringLiteral("vide"), QStringLiteral("solide"), VersQString("hachuré")});
+    ComboBrosse->addItems({QStringLiteral("vide"), QStringLiteral("solide"), VersQt("hachuré")});
     ComboBrosse->setCurrentIndex(d.brosse);
-    txtEpaisseurTrait = new QLineEdit(VersQString(d.epaisseur), this);
+    txtEpaisseurTrait = new QLineEdit(VersQt(d.epaisseur), this);
     txtEpaisseurTrait->setObjectName("txtEpaisseurTrait");
-    OptionAxeY[0] = new QRadioButton(VersQString("1er axe des Y"), this);
-    OptionAxeY[1] = new QRadioButton(VersQString("2ème axe des Y"), this);
+    OptionAxeY[0] = new QRadioButton(VersQt("1er axe des Y"), this);
+    OptionAxeY[1] = new QRadioButton(VersQt("2ème axe des Y"), this);
     OptionAxeY[0]->setObjectName("OptionAxeY0");
     OptionAxeY[1]->setObjectName("OptionAxeY1");
     OptionAxeY[d.axeY2 ? 1 : 0]->setChecked(true);
@@ -55,13 +46,13 @@ FrmSerieGraph::FrmSerieGraph(PortUtilisateur& utilisateur, const SerieGraph& ser
     cmdAnnuler->setObjectName("cmdAnnuler");
 
     auto* formulaire = new QFormLayout;
-    formulaire->addRow(VersQString("Nom de la série :"), txtNom);
+    formulaire->addRow(VersQt("Nom de la série :"), txtNom);
     formulaire->addRow(QStringLiteral("Brosse :"), ComboBrosse);
     formulaire->addRow(QStringLiteral("Epaisseur du trait :"), txtEpaisseurTrait);
     auto* axes = new QHBoxLayout;
     axes->addWidget(OptionAxeY[0]);
     axes->addWidget(OptionAxeY[1]);
-    formulaire->addRow(VersQString(LibelleAxeSerie(i)), axes);
+    formulaire->addRow(VersQt(LibelleAxeSerie(i)), axes);
     formulaire->addRow(QStringLiteral("Couleur :"), cmdCouleur);
     auto* boutons = new QHBoxLayout;
     boutons->addStretch();
@@ -79,9 +70,9 @@ FrmSerieGraph::FrmSerieGraph(PortUtilisateur& utilisateur, const SerieGraph& ser
 
 DialogueSerie FrmSerieGraph::Valeurs() const {
     DialogueSerie d;
-    d.nom = DepuisQString(txtNom->text());
+    d.nom = DepuisQt(txtNom->text());
     d.brosse = ComboBrosse->currentIndex();
-    d.epaisseur = DepuisQString(txtEpaisseurTrait->text());
+    d.epaisseur = DepuisQt(txtEpaisseurTrait->text());
     d.axeY2 = OptionAxeY[1]->isChecked();
     d.couleur = couleur_;
     return d;
@@ -90,7 +81,7 @@ DialogueSerie FrmSerieGraph::Valeurs() const {
 void FrmSerieGraph::ChoisirCouleur() {
     if (!CouleurPermise(utilisateur_, ComboBrosse->currentIndex())) return;
     const QColor choisie =
-        QColorDialog::getColor(VersQColor(couleur_), this, VersQString("Couleur de la série"));
+        QColorDialog::getColor(VersQColor(couleur_), this, VersQt("Couleur de la série"));
     if (!choisie.isValid()) return; // cancelled: the colour stays
     couleur_ = {choisie.red(), choisie.green(), choisie.blue()};
     MontrerCouleur();

@@ -38,8 +38,7 @@ void PeindrePageGraphique(QPagedPaintDevice& sortie, const QImage& graphique,
     p.setFont(police);
     p.drawText(QRectF(kPlaceGraphique.left(), kPlaceGraphique.bottom() + 200,
                       kPlaceGraphique.width(), 400),
-               Qt::AlignLeft | Qt::AlignVCenter,
-               QStringLiteral("Dossier : ") + VersQString(nomDossier));
+               Qt::AlignLeft | Qt::AlignVCenter, QStringLiteral("Dossier : ") + VersQt(nomDossier));
 }
 
 bool ImprimerGraphique(QWidget* parent, const QImage& graphique, const Texte& nomDossier) {
@@ -47,7 +46,7 @@ bool ImprimerGraphique(QWidget* parent, const QImage& graphique, const Texte& no
     imprimante.setPageOrientation(QPageLayout::Landscape);
     if (QPrinterInfo::availablePrinters().isEmpty()) {
         const QString fichier = QFileDialog::getSaveFileName(
-            parent, VersQString("Imprimer le graphique dans un fichier PDF"),
+            parent, VersQt("Imprimer le graphique dans un fichier PDF"),
             QStringLiteral("graphique.pdf"), QStringLiteral("PDF (*.pdf)"));
         if (fichier.isEmpty()) return false;
         imprimante.setOutputFormat(QPrinter::PdfFormat);

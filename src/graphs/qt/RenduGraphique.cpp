@@ -40,7 +40,7 @@ constexpr int kEchelle = 2; // pixels of the picture for one unit of the chart
 // --- fonts, pens, brushes -------------------------------------------------------------------
 
 QFont Police(const Texte& nom, double points) {
-    QFont f(VersQString(nom.empty() ? Texte("Arial") : nom));
+    QFont f(VersQt(nom.empty() ? Texte("Arial") : nom));
     f.setPointSizeF(std::isfinite(points) ? std::clamp(points, 4.0, 72.0) : 10.0);
     return f;
 }
@@ -92,22 +92,22 @@ Grille LireGrille(const ReglagesGraphique& r) {
     if (!r.seriesEnLignes) {
         for (std::size_t c = 0; c < colonnes; ++c) {
             const SerieReglee s = style(c);
-            g.noms.push_back(VersQString(s.legende.empty() ? r.libellesColonnes[c] : s.legende));
+            g.noms.push_back(VersQt(s.legende.empty() ? r.libellesColonnes[c] : s.legende));
             g.valeurs.push_back(r.donnees[c]);
             g.styles.push_back(s);
         }
         for (std::size_t l = 0; l < lignes; ++l)
-            g.categories.push_back(VersQString(r.libellesLignes[l]));
+            g.categories.push_back(VersQt(r.libellesLignes[l]));
     } else {
         for (std::size_t l = 0; l < lignes; ++l) {
-            g.noms.push_back(VersQString(r.libellesLignes[l]));
+            g.noms.push_back(VersQt(r.libellesLignes[l]));
             std::vector<double> v;
             for (std::size_t c = 0; c < colonnes; ++c) v.push_back(r.donnees[c][l]);
             g.valeurs.push_back(v);
             g.styles.push_back(style(l));
         }
         for (std::size_t c = 0; c < colonnes; ++c)
-            g.categories.push_back(VersQString(r.libellesColonnes[c]));
+            g.categories.push_back(VersQt(r.libellesColonnes[c]));
     }
     return g;
 }
@@ -225,7 +225,7 @@ void Etendue(const std::vector<SerieTracee>& series, bool secondaire, QValueAxis
 }
 
 void ReglerAxe(QAbstractAxis& axe, const AxeRegle& a) {
-    axe.setTitleText(VersQString(a.titre));
+    axe.setTitleText(VersQt(a.titre));
     axe.setTitleFont(Police(a.police, a.taille));
     QFont libelles = Police(a.police, 8);
     axe.setLabelsFont(libelles);
@@ -564,10 +564,6 @@ QPointF Profondeur(const ReglagesGraphique& r, QSizeF taille, int rangs) {
 
 } // namespace
 
-QString VersQString(const Texte& t) {
-    return QString::fromUtf8(Cp1252VersUtf8(t));
-}
-
 QColor VersQColor(CouleurGraphique c) {
     return QColor(std::clamp(c.rouge, 0, 255), std::clamp(c.vert, 0, 255),
                   std::clamp(c.bleu, 0, 255));
@@ -611,7 +607,7 @@ QImage RendreGraphique(const ReglagesGraphique& r, QSize taille) {
     const auto boiteNote = r.boites[2].posee ? cadre.Boite(r.boites[2].rect) : std::nullopt;
     const auto boitePlot = cadre.Boite(r.plot);
 
-    const QString titre = VersQString(r.titre);
+    const QString titre = VersQt(r.titre);
     const QFont policeTitre = Police(r.policeTitre, r.tailleTitre);
     if (!titre.isEmpty()) {
         if (!boiteTitre && r.orientationTitre == kHorizontal) {
@@ -629,7 +625,7 @@ QImage RendreGraphique(const ReglagesGraphique& r, QSize taille) {
             }
         }
     }
-    const QString note = VersQString(r.note);
+    const QString note = VersQt(r.note);
     if (!note.isEmpty()) {
         auto* item = ElementTexte(scene, note, Police(r.policeNote, 9), r.orientationNote,
                                   boiteNote ? boiteNote->width() : t.width() - 2 * kMarge);

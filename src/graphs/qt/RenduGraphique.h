@@ -2,6 +2,7 @@
 // Drawing of a chart's settings with Qt Charts into a picture, without a screen.
 
 #include "graphs/qt/ReglagesGraphique.h"
+#include "utils/qt/TexteQt.h"
 
 #include <QColor>
 #include <QImage>
@@ -13,9 +14,6 @@ namespace verdane::qt {
 // The chart of `r` drawn at `taille` (the chart's units), into a picture with twice as many
 // pixels each way, on white.
 QImage RendreGraphique(const ReglagesGraphique& r, QSize taille);
-
-// A Windows-1252 text of the engine as a Qt string.
-QString VersQString(const Texte& t);
 
 // A colour as the core gives it: each component brought into 0 to 255 (the random colours
 // run up to 354: above 255 stays at full strength).

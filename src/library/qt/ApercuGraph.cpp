@@ -1,8 +1,8 @@
 #include "library/qt/ApercuGraph.h"
 
 #include "library/LectureSelection.h"
-#include "library/qt/TexteInsertion.h"
 #include "utils/OutilsFichiers.h"
+#include "utils/qt/TexteQt.h"
 
 #include <QImage>
 #include <QLabel>

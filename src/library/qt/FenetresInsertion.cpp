@@ -1,4 +1,5 @@
 #include "library/InfoBulle.h"
+
 #include "library/InsererCode.h"
 #include "library/LectureSelection.h"
 #include "library/qt/ApercuGraph.h"
@@ -7,6 +8,7 @@
 #include "library/qt/FrmDate.h"
 #include "library/qt/FrmInfoBulle.h"
 #include "library/qt/FrmInserVal.h"
+#include "utils/qt/Ecran.h"
 
 #include <QGuiApplication>
 
@@ -59,8 +61,7 @@ void InscrireFormesInsertion(Contexte& ctx) {
 }
 
 void InscrireFenetresInsertion(Contexte& ctx) {
-    const QString plateforme = QGuiApplication::platformName();
-    if (plateforme.isEmpty() || plateforme == "offscreen" || plateforme == "minimal") return;
+    if (!EcranDisponible()) return;
     InscrireFormesInsertion(ctx);
 }
 

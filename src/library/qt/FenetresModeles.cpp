@@ -1,4 +1,5 @@
 #include "data/ChargerDossier.h"
+
 #include "library/OuvrirDoc.h"
 #include "library/qt/FenetresBibliotheque.h"
 #include "library/qt/FrmCreerDoc.h"
@@ -6,6 +7,7 @@
 #include "library/qt/FrmOuvrExport.h"
 #include "library/qt/FrmTrfMdl.h"
 #include "utils/Chaines.h"
+#include "utils/qt/Ecran.h"
 
 #include <QApplication>
 #include <QGuiApplication>
@@ -57,16 +59,10 @@ int OuvrirFrmTrfMdl(Contexte& ctx, const std::vector<Texte>& a) {
     return Montrer(f);
 }
 
-bool EcranPresent() {
-    return QApplication::instance() != nullptr &&
-           QGuiApplication::platformName() != QLatin1String("offscreen") &&
-           QGuiApplication::platformName() != QLatin1String("minimal");
-}
-
 } // namespace
 
 void InscrireFenetresModeles(Contexte& ctx) {
-    if (!EcranPresent()) return;
+    if (!EcranDisponible()) return;
     ctx.formulaires.Inscrire("FrmOuvrDoc", OuvrirFrmOuvrDoc);
     ctx.formulaires.Inscrire("FrmCreerDoc", OuvrirFrmCreerDoc);
     ctx.formulaires.Inscrire("FrmTrfMdl", OuvrirFrmTrfMdl);

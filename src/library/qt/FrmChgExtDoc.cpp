@@ -2,8 +2,8 @@
 
 #include "library/FormatsDocument.h"
 #include "library/GestModeles.h"
-#include "library/qt/TexteModeles.h"
 #include "utils/OutilsFichiers.h"
+#include "utils/qt/TexteQt.h"
 
 #include <QDialogButtonBox>
 #include <QLabel>
@@ -16,18 +16,18 @@ namespace verdane::qt {
 FrmChgExtDoc::FrmChgExtDoc(Contexte& ctx, const Texte& document, QWidget* parent)
     : QDialog(parent), ctx_(ctx), document_(document) {
     setObjectName("FrmChgExtDoc");
-    setWindowTitle(QtDe("Conversion de " + NomFichier(document)));
+    setWindowTitle(VersQt("Conversion de " + NomFichier(document)));
     auto* disposition = new QVBoxLayout(this);
-    disposition->addWidget(new QLabel(QtDe("Cochez le format désiré puis validez."), this));
+    disposition->addWidget(new QLabel(VersQt("Cochez le format désiré puis validez."), this));
     for (const FormatOffert& f : FormatsOfferts(ctx.etat)) {
-        auto* option = new QRadioButton(QtDe(f.libelle), this);
-        option->setObjectName(QtDe(Texte("Option") + f.lettre));
+        auto* option = new QRadioButton(VersQt(f.libelle), this);
+        option->setObjectName(VersQt(Texte("Option") + f.lettre));
         formats_.emplace_back(f.lettre, option);
         disposition->addWidget(option);
     }
     auto* boutons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    boutons->button(QDialogButtonBox::Ok)->setText(QtDe("Valider"));
-    boutons->button(QDialogButtonBox::Cancel)->setText(QtDe("Annuler"));
+    boutons->button(QDialogButtonBox::Ok)->setText(VersQt("Valider"));
+    boutons->button(QDialogButtonBox::Cancel)->setText(VersQt("Annuler"));
     connect(boutons, &QDialogButtonBox::accepted, this, &FrmChgExtDoc::Valider);
     connect(boutons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     disposition->addWidget(boutons);

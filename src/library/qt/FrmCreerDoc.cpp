@@ -8,9 +8,9 @@
 #include "library/qt/FrmOuvrDoc.h"
 #include "library/qt/FrmOuvrExport.h"
 #include "library/qt/ListeQt.h"
-#include "library/qt/TexteModeles.h"
 #include "utils/Chaines.h"
 #include "utils/OutilsFichiers.h"
+#include "utils/qt/TexteQt.h"
 
 #include <QComboBox>
 #include <QFormLayout>
@@ -28,7 +28,7 @@ namespace verdane::qt {
 namespace {
 
 QPushButton* Bouton(QWidget* parent, const char* nom, const char* texte) {
-    auto* b = new QPushButton(QtDe(texte), parent);
+    auto* b = new QPushButton(VersQt(texte), parent);
     b->setObjectName(nom);
     b->setAutoDefault(false);
     return b;
@@ -45,11 +45,11 @@ FrmCreerDoc::FrmCreerDoc(Contexte& ctx, bool pde, QWidget* parent)
     : QDialog(parent), ctx_(ctx), lblDossier_(new QLabel(this)), txtRepMdl_(new QLineEdit(this)),
       lstModeles_(new QTreeWidget(this)), txtRepDoc_(new QLineEdit(this)),
       txtNomDoc_(new QLineEdit(this)), ComboFormat_(new QComboBox(this)),
-      FramePDE_(new QGroupBox(QtDe("PDE Cerfa"), this)), ComboPDE_(new QComboBox(this)),
+      FramePDE_(new QGroupBox(VersQt("PDE Cerfa"), this)), ComboPDE_(new QComboBox(this)),
       txtAnneesPDE_(new QSpinBox(this)) {
     setObjectName("FrmCreerDoc");
-    setWindowTitle(QtDe(pde ? "Etude Prévisionnelle d'Installation (PDE Cerfa)"
-                            : "Créer un document depuis un modèle"));
+    setWindowTitle(VersQt(pde ? "Etude Prévisionnelle d'Installation (PDE Cerfa)"
+                              : "Créer un document depuis un modèle"));
     suite_ = [this](const Texte& resultat) {
         FrmOuvrExport f(ctx_, resultat, this);
         f.exec();
@@ -70,7 +70,7 @@ FrmCreerDoc::FrmCreerDoc(Contexte& ctx, bool pde, QWidget* parent)
     ligneDossier->addWidget(cmdDossMarlo);
 
     // Left: the model.
-    auto* gauche = new QGroupBox(QtDe("Modèle de document"), this);
+    auto* gauche = new QGroupBox(VersQt("Modèle de document"), this);
     auto* cmdRepMdl = Bouton(this, "cmdRepMdl", "...");
     auto* ligneRepMdl = new QHBoxLayout;
     ligneRepMdl->addWidget(txtRepMdl_);
@@ -80,23 +80,23 @@ FrmCreerDoc::FrmCreerDoc(Contexte& ctx, bool pde, QWidget* parent)
     dispoGauche->addWidget(lstModeles_);
 
     // Right: the result.
-    auto* droite = new QGroupBox(QtDe("Document à créer"), this);
+    auto* droite = new QGroupBox(VersQt("Document à créer"), this);
     auto* cmdRepDoc = Bouton(this, "cmdRepDoc", "...");
     auto* ligneRepDoc = new QHBoxLayout;
     ligneRepDoc->addWidget(txtRepDoc_);
     ligneRepDoc->addWidget(cmdRepDoc);
     auto* cmdChgEditeur = Bouton(this, "cmdChgEditeur", "Autre traitement de texte...");
     auto* formulaire = new QFormLayout(droite);
-    formulaire->addRow(QtDe("Répertoire :"), ligneRepDoc);
-    formulaire->addRow(QtDe("Nom :"), txtNomDoc_);
-    formulaire->addRow(QtDe("Format :"), ComboFormat_);
+    formulaire->addRow(VersQt("Répertoire :"), ligneRepDoc);
+    formulaire->addRow(VersQt("Nom :"), txtNomDoc_);
+    formulaire->addRow(VersQt("Format :"), ComboFormat_);
     formulaire->addRow(QString(), cmdChgEditeur);
 
-    for (std::size_t i = 0; i < PagesPDE().size(); ++i) ComboPDE_->addItem(QtDe(PagesPDE()[i]));
+    for (std::size_t i = 0; i < PagesPDE().size(); ++i) ComboPDE_->addItem(VersQt(PagesPDE()[i]));
     txtAnneesPDE_->setRange(0, 30);
     auto* dispoPDE = new QFormLayout(FramePDE_);
-    dispoPDE->addRow(QtDe("Pages :"), ComboPDE_);
-    dispoPDE->addRow(QtDe("Années d'étude (0 : 5 ans) :"), txtAnneesPDE_);
+    dispoPDE->addRow(VersQt("Pages :"), ComboPDE_);
+    dispoPDE->addRow(VersQt("Années d'étude (0 : 5 ans) :"), txtAnneesPDE_);
     formulaire->addRow(FramePDE_);
     FramePDE_->setVisible(pde);
 
@@ -117,7 +117,7 @@ FrmCreerDoc::FrmCreerDoc(Contexte& ctx, bool pde, QWidget* parent)
     disposition->addLayout(boutons);
     resize(860, 480);
 
-    txtRepMdl_->setText(QtDe(ctx.etat.chemins.RepModlDocs));
+    txtRepMdl_->setText(VersQt(ctx.etat.chemins.RepModlDocs));
     AfficherDossier();
     ListerModeles();
     RemplirFormats();
@@ -138,20 +138,20 @@ FrmCreerDoc::FrmCreerDoc(Contexte& ctx, bool pde, QWidget* parent)
 void FrmCreerDoc::AfficherDossier() {
     const Etat& e = ctx_.etat;
     const bool choisi = !Rogner(e.NomDossier[0]).empty();
-    lblDossier_->setText(QtDe("Dossier Marlo : " +
-                              (choisi ? Rogner(e.NomDossier[0]) : Texte("aucun dossier choisi"))));
+    lblDossier_->setText(VersQt(
+        "Dossier Marlo : " + (choisi ? Rogner(e.NomDossier[0]) : Texte("aucun dossier choisi"))));
     if (choisi) {
-        txtRepDoc_->setText(QtDe(DossierComplet(e, 0)));
+        txtRepDoc_->setText(VersQt(DossierComplet(e, 0)));
         txtAnneesPDE_->setValue(e.nbAnEtude);
     } else if (txtRepDoc_->text().isEmpty()) {
-        txtRepDoc_->setText(QtDe(Rogner(e.options.RepDocuments).empty()
-                                     ? e.chemins.RepModlDocs
-                                     : AjouterBarre(e.options.RepDocuments)));
+        txtRepDoc_->setText(VersQt(Rogner(e.options.RepDocuments).empty()
+                                       ? e.chemins.RepModlDocs
+                                       : AjouterBarre(e.options.RepDocuments)));
     }
 }
 
 void FrmCreerDoc::ListerModeles() {
-    modeles_ = ListerFichiers(ctx_.etat, TexteDe(txtRepMdl_->text()), "MDL");
+    modeles_ = ListerFichiers(ctx_.etat, DepuisQt(txtRepMdl_->text()), "MDL");
     RemplirListe(*lstModeles_, modeles_, false);
 }
 
@@ -160,10 +160,10 @@ void FrmCreerDoc::ChoisirModele() {
     if (choix.empty()) return;
     modele_ = modeles_.dossier + choix[0].nom;
     page_ = -1; // the model picked by hand replaces a page of the PDE
-    const Texte nom = TexteDe(txtNomDoc_->text());
+    const Texte nom = DepuisQt(txtNomDoc_->text());
     if (nom.empty() || nom == nomPropose_) {
         nomPropose_ = SansExtension(choix[0].nom);
-        txtNomDoc_->setText(QtDe(nomPropose_));
+        txtNomDoc_->setText(VersQt(nomPropose_));
     }
 }
 
@@ -171,16 +171,16 @@ void FrmCreerDoc::ChoisirPage(int index) {
     page_ = index;
     lstModeles_->clearSelection();
     nomPropose_ = NomResultatPDE(index);
-    txtNomDoc_->setText(QtDe(nomPropose_));
+    txtNomDoc_->setText(VersQt(nomPropose_));
 }
 
 void FrmCreerDoc::ChoisirRepertoireModeles() {
-    txtRepMdl_->setText(QtDe(ChoisirRepertoire(ctx_, this, TexteDe(txtRepMdl_->text()))));
+    txtRepMdl_->setText(VersQt(ChoisirRepertoire(ctx_, this, DepuisQt(txtRepMdl_->text()))));
     ListerModeles();
 }
 
 void FrmCreerDoc::ChoisirRepertoireResultat() {
-    txtRepDoc_->setText(QtDe(ChoisirRepertoire(ctx_, this, TexteDe(txtRepDoc_->text()))));
+    txtRepDoc_->setText(VersQt(ChoisirRepertoire(ctx_, this, DepuisQt(txtRepDoc_->text()))));
 }
 
 void FrmCreerDoc::ChoisirDossier() {
@@ -196,14 +196,14 @@ void FrmCreerDoc::ChangerEditeur() {
 void FrmCreerDoc::RemplirFormats() {
     ComboFormat_->clear();
     for (const FormatOffert& f : FormatsOfferts(ctx_.etat))
-        ComboFormat_->addItem(QtDe(f.libelle), QChar(f.lettre));
+        ComboFormat_->addItem(VersQt(f.libelle), QChar(f.lettre));
 }
 
 void FrmCreerDoc::Creer() {
     DemandeCreation d;
     d.modele = modele_;
-    d.dossierResultat = TexteDe(txtRepDoc_->text());
-    d.nomResultat = TexteDe(txtNomDoc_->text());
+    d.dossierResultat = DepuisQt(txtRepDoc_->text());
+    d.nomResultat = DepuisQt(txtNomDoc_->text());
     d.format = static_cast<char>(ComboFormat_->currentData().toChar().toLatin1());
     if (d.format == '\0') d.format = 'R';
     if (!FramePDE_->isHidden()) {

@@ -1,7 +1,7 @@
 #include "library/qt/FrmDate.h"
 
 #include "library/FormesDate.h"
-#include "library/qt/TexteInsertion.h"
+#include "utils/qt/TexteQt.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>

@@ -1,7 +1,7 @@
 #include "library/qt/FrmExplor.h"
 
-#include "library/qt/TexteModeles.h"
 #include "utils/OutilsFichiers.h"
+#include "utils/qt/TexteQt.h"
 
 #include <QDialogButtonBox>
 #include <QDir>
@@ -16,13 +16,13 @@ namespace verdane::qt {
 FrmExplor::FrmExplor(Contexte& ctx, const Texte& depart, QWidget* parent)
     : QDialog(parent), ctx_(ctx), arbre_(new QTreeView(this)), modele_(new QFileSystemModel(this)) {
     setObjectName("FrmExplor");
-    setWindowTitle(QtDe("Choix d'un répertoire"));
+    setWindowTitle(VersQt("Choix d'un répertoire"));
     modele_->setFilter(QDir::AllDirs | QDir::NoDotAndDotDot | QDir::Drives);
     modele_->setRootPath(QDir::rootPath());
     arbre_->setModel(modele_);
     for (int c = 1; c < modele_->columnCount(); ++c) arbre_->hideColumn(c);
     arbre_->header()->hide();
-    const QString debut = QtDe(CheminTexte(CheminSysteme(depart)));
+    const QString debut = VersQt(CheminTexte(CheminSysteme(depart)));
     const QModelIndex ici = modele_->index(debut);
     if (ici.isValid()) {
         arbre_->setCurrentIndex(ici);
@@ -40,7 +40,7 @@ FrmExplor::FrmExplor(Contexte& ctx, const Texte& depart, QWidget* parent)
 void FrmExplor::Valider() {
     const QString chemin = modele_->filePath(arbre_->currentIndex());
     if (chemin.isEmpty()) return;
-    const Texte choisi = AjouterBarre(TexteDe(chemin));
+    const Texte choisi = AjouterBarre(DepuisQt(chemin));
     if (!QFileInfo(chemin).isReadable()) {
         ctx_.utilisateur.Boite(choisi + " n'est pas prêt.", "Lecteur non disponible.",
                                Icone::Attention);

@@ -1,7 +1,7 @@
 #include "library/qt/FrmInfoBulle.h"
 
 #include "library/InfoBulle.h"
-#include "library/qt/TexteInsertion.h"
+#include "utils/qt/TexteQt.h"
 
 #include <QFormLayout>
 #include <QHBoxLayout>

@@ -1,7 +1,7 @@
 #include "library/qt/FrmInserVal.h"
 
 #include "library/InsererCode.h"
-#include "library/qt/TexteInsertion.h"
+#include "utils/qt/TexteQt.h"
 
 #include <QButtonGroup>
 #include <QComboBox>

@@ -3,9 +3,9 @@
 #include "data/ChargerDossier.h"
 #include "library/qt/FrmExplor.h"
 #include "library/qt/ListeQt.h"
-#include "library/qt/TexteModeles.h"
 #include "utils/Chaines.h"
 #include "utils/OutilsFichiers.h"
+#include "utils/qt/TexteQt.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>
@@ -22,13 +22,13 @@ FrmOuvrDoc::FrmOuvrDoc(Contexte& ctx, const Texte& tag, const Texte& documentMaj
     : QDialog(parent), ctx_(ctx), mode_(ModeDuTag(tag)), documentMaj_(documentMaj),
       onglets_(OngletsOuverture(mode_)), TabStripMdlDoc_(new QTabBar(this)),
       txtRepertoire_(new QLineEdit(this)), lstFichiers_(new QTreeWidget(this)),
-      CheckSvgRepMdlDoc_(new QCheckBox(QtDe("Mémoriser ce répertoire"), this)),
+      CheckSvgRepMdlDoc_(new QCheckBox(VersQt("Mémoriser ce répertoire"), this)),
       cmdSupprimer_(new QPushButton(this)) {
     setObjectName("FrmOuvrDoc");
     const Texte titre = TitreOuverture(mode_, false);
-    setWindowTitle(QtDe(titre.empty() ? Texte("Ouvrir un modèle ou un document") : titre));
+    setWindowTitle(VersQt(titre.empty() ? Texte("Ouvrir un modèle ou un document") : titre));
     TabStripMdlDoc_->setObjectName("TabStripMdlDoc");
-    for (const OngletOuverture& o : onglets_) TabStripMdlDoc_->addTab(QtDe(o.libelle));
+    for (const OngletOuverture& o : onglets_) TabStripMdlDoc_->addTab(VersQt(o.libelle));
     txtRepertoire_->setObjectName("txtRepertoire");
     lstFichiers_->setObjectName("lstFichiers");
     CheckSvgRepMdlDoc_->setObjectName("CheckSvgRepMdlDoc");
@@ -37,7 +37,7 @@ FrmOuvrDoc::FrmOuvrDoc(Contexte& ctx, const Texte& tag, const Texte& documentMaj
     cmdSupprimer_->setObjectName("cmdSupprimer");
 
     auto* ligneRep = new QHBoxLayout;
-    ligneRep->addWidget(new QLabel(QtDe("Répertoire :"), this));
+    ligneRep->addWidget(new QLabel(VersQt("Répertoire :"), this));
     ligneRep->addWidget(txtRepertoire_);
     auto* cmdRepertoire = new QPushButton("...", this);
     cmdRepertoire->setObjectName("cmdRepertoire");
@@ -46,12 +46,12 @@ FrmOuvrDoc::FrmOuvrDoc(Contexte& ctx, const Texte& tag, const Texte& documentMaj
 
     auto* boutons = new QHBoxLayout;
     auto* cmdOuvrir =
-        new QPushButton(QtDe(mode_ == ModeOuverture::Document ? "Ouvrir" : "Choisir"), this);
+        new QPushButton(VersQt(mode_ == ModeOuverture::Document ? "Ouvrir" : "Choisir"), this);
     cmdOuvrir->setObjectName("cmdOuvrir");
     cmdOuvrir->setDefault(true);
-    auto* cmdSupprimerTout = new QPushButton(QtDe("Tout sup."), this);
+    auto* cmdSupprimerTout = new QPushButton(VersQt("Tout sup."), this);
     cmdSupprimerTout->setObjectName("cmdSupprimerTout");
-    auto* cmdAnnuler = new QPushButton(QtDe("Annuler"), this);
+    auto* cmdAnnuler = new QPushButton(VersQt("Annuler"), this);
     cmdAnnuler->setObjectName("cmdAnnuler");
     for (QPushButton* b : {cmdSupprimer_, cmdSupprimerTout, cmdAnnuler}) b->setAutoDefault(false);
     boutons->addWidget(CheckSvgRepMdlDoc_);
@@ -92,25 +92,25 @@ Texte FrmOuvrDoc::RepertoireDeLOnglet() const {
 
 void FrmOuvrDoc::ChangerOnglet() {
     const auto& onglet = onglets_[static_cast<std::size_t>(TabStripMdlDoc_->currentIndex())];
-    cmdSupprimer_->setText(QtDe(onglet.suppression));
-    txtRepertoire_->setText(QtDe(RepertoireDeLOnglet()));
+    cmdSupprimer_->setText(VersQt(onglet.suppression));
+    txtRepertoire_->setText(VersQt(RepertoireDeLOnglet()));
     Lister();
 }
 
 void FrmOuvrDoc::Lister() {
     const auto& onglet = onglets_[static_cast<std::size_t>(TabStripMdlDoc_->currentIndex())];
-    liste_ = ListerFichiers(ctx_.etat, TexteDe(txtRepertoire_->text()), onglet.tag);
+    liste_ = ListerFichiers(ctx_.etat, DepuisQt(txtRepertoire_->text()), onglet.tag);
     RemplirListe(*lstFichiers_, liste_, false);
     if (liste_.tag == "DOS")
         for (int i = 0; i < lstFichiers_->topLevelItemCount() && !liste_.Vide(); ++i)
             lstFichiers_->topLevelItem(i)->setToolTip(
-                0, QtDe(InfoBulleDossier(i + 1, liste_.lignes[static_cast<std::size_t>(i)].nom)));
+                0, VersQt(InfoBulleDossier(i + 1, liste_.lignes[static_cast<std::size_t>(i)].nom)));
     if (!liste_.Vide()) lstFichiers_->setCurrentItem(lstFichiers_->topLevelItem(0));
 }
 
 void FrmOuvrDoc::ChoisirRepertoire() {
     txtRepertoire_->setText(
-        QtDe(verdane::qt::ChoisirRepertoire(ctx_, this, TexteDe(txtRepertoire_->text()))));
+        VersQt(verdane::qt::ChoisirRepertoire(ctx_, this, DepuisQt(txtRepertoire_->text()))));
     Lister();
 }
 

@@ -3,9 +3,9 @@
 #include "library/qt/AutresFenetres.h"
 #include "library/qt/FrmChgExtDoc.h"
 #include "library/qt/FrmTrfMdl.h"
-#include "library/qt/TexteModeles.h"
 #include "links/Liens.h"
 #include "utils/OutilsFichiers.h"
+#include "utils/qt/TexteQt.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -17,25 +17,25 @@ namespace verdane::qt {
 FrmOuvrExport::FrmOuvrExport(Contexte& ctx, const Texte& document, QWidget* parent)
     : QDialog(parent), ctx_(ctx), document_(document), lblEditeur_(new QLabel(this)) {
     setObjectName("FrmOuvrExport");
-    setWindowTitle(QtDe("Document : " + NomFichier(document)));
+    setWindowTitle(VersQt("Document : " + NomFichier(document)));
     auto* disposition = new QVBoxLayout(this);
-    auto* lblDocument = new QLabel(QtDe(document), this);
+    auto* lblDocument = new QLabel(VersQt(document), this);
     lblDocument->setObjectName("lblDocument");
     lblDocument->setTextInteractionFlags(Qt::TextSelectableByMouse);
     disposition->addWidget(lblDocument);
     if (!FichierExiste(document)) {
         auto* absent =
-            new QLabel(QtDe("Ce document n'existe pas (encore) dans ce répertoire."), this);
+            new QLabel(VersQt("Ce document n'existe pas (encore) dans ce répertoire."), this);
         absent->setObjectName("lblAbsent");
         disposition->addWidget(absent);
     }
     lblEditeur_->setText(
-        QtDe("Traitement de texte : " + NomEditeurAffiche(ctx.etat.options.CheminEditeur)));
+        VersQt("Traitement de texte : " + NomEditeurAffiche(ctx.etat.options.CheminEditeur)));
     disposition->addWidget(lblEditeur_);
 
     auto* ligne = new QHBoxLayout;
     const auto bouton = [&](const char* nom, const char* texte, void (FrmOuvrExport::*action)()) {
-        auto* b = new QPushButton(QtDe(texte), this);
+        auto* b = new QPushButton(VersQt(texte), this);
         b->setObjectName(nom);
         b->setAutoDefault(false);
         connect(b, &QPushButton::clicked, this, action);
@@ -46,7 +46,7 @@ FrmOuvrExport::FrmOuvrExport(Contexte& ctx, const Texte& document, QWidget* pare
     bouton("cmdExporter", "Exporter...", &FrmOuvrExport::Exporter);
     bouton("cmdConvertir", "Convertir...", &FrmOuvrExport::Convertir);
     bouton("cmdChgEditeur", "Autre traitement de texte...", &FrmOuvrExport::ChangerEditeur);
-    auto* fermer = new QPushButton(QtDe("Fermer"), this);
+    auto* fermer = new QPushButton(VersQt("Fermer"), this);
     fermer->setObjectName("cmdFermer");
     connect(fermer, &QPushButton::clicked, this, &QDialog::reject);
     ligne->addWidget(fermer);
@@ -65,7 +65,7 @@ void FrmOuvrExport::Ouvrir() {
 
 void FrmOuvrExport::Exporter() {
     FrmTrfMdl f(ctx_, 'C', "DOC", DossierParent(document_), this);
-    f.setWindowTitle(QtDe("Copie d'un ou plusieurs documents textes"));
+    f.setWindowTitle(VersQt("Copie d'un ou plusieurs documents textes"));
     f.PoserLegende(" Exporter un document dans un autre répertoire");
     f.Cocher(NomFichier(document_));
     f.exec();
@@ -79,7 +79,7 @@ void FrmOuvrExport::Convertir() {
 void FrmOuvrExport::ChangerEditeur() {
     OuvrirAutreFenetre(ctx_, "FrmChoixEditeur", {"ouvre"});
     lblEditeur_->setText(
-        QtDe("Traitement de texte : " + NomEditeurAffiche(ctx_.etat.options.CheminEditeur)));
+        VersQt("Traitement de texte : " + NomEditeurAffiche(ctx_.etat.options.CheminEditeur)));
 }
 
 } // namespace verdane::qt

@@ -4,9 +4,9 @@
 #include "library/qt/FrmChgExtDoc.h"
 #include "library/qt/FrmExplor.h"
 #include "library/qt/ListeQt.h"
-#include "library/qt/TexteModeles.h"
 #include "utils/Chaines.h"
 #include "utils/OutilsFichiers.h"
+#include "utils/qt/TexteQt.h"
 
 #include <QComboBox>
 #include <QGridLayout>
@@ -40,17 +40,17 @@ FrmTrfMdl::FrmTrfMdl(Contexte& ctx, char mode, const Texte& tag, const Texte& so
     : QDialog(parent), ctx_(ctx), mode_(mode), lblLegende_(new QLabel(this)),
       comboGenre_(new QComboBox(this)), lblSource_(new QLabel(this)),
       txtSource_(new QLineEdit(this)), txtDestination_(new QLineEdit(this)),
-      lstFichiers_(new QTreeWidget(this)), cmdToutTrf_(new QPushButton(QtDe("Tout Trf."), this)),
-      cmdRenommer_(new QPushButton(QtDe("Renommer..."), this)),
-      cmdConvertir_(new QPushButton(QtDe("Convertir..."), this)) {
+      lstFichiers_(new QTreeWidget(this)), cmdToutTrf_(new QPushButton(VersQt("Tout Trf."), this)),
+      cmdRenommer_(new QPushButton(VersQt("Renommer..."), this)),
+      cmdConvertir_(new QPushButton(VersQt("Convertir..."), this)) {
     setObjectName("FrmTrfMdl");
     const bool ajout = mode == 'A';
     setWindowTitle(
-        QtDe(ajout ? "Ajout de modèle ou de document" : "Copie de modèle ou de document"));
+        VersQt(ajout ? "Ajout de modèle ou de document" : "Copie de modèle ou de document"));
     PoserLegende(ajout ? " Importer un modèle de tableau ou de graphique"
                        : " Exporter un modèle ou un document texte");
     comboGenre_->setObjectName("ComboGenre");
-    for (const Genre& g : kGenres) comboGenre_->addItem(QtDe(g.libelle), QtDe(g.tag));
+    for (const Genre& g : kGenres) comboGenre_->addItem(VersQt(g.libelle), VersQt(g.tag));
     for (std::size_t i = 0; i < kGenres.size(); ++i)
         if (tag == kGenres[i].tag) comboGenre_->setCurrentIndex(static_cast<int>(i));
     txtSource_->setObjectName("txtSource");
@@ -61,18 +61,18 @@ FrmTrfMdl::FrmTrfMdl(Contexte& ctx, char mode, const Texte& tag, const Texte& so
     cmdConvertir_->setObjectName("cmdConvertir");
 
     const Texte programme = RepertoireDuProgramme(Tag());
-    txtSource_->setText(QtDe(!source.empty() ? source : ajout ? Texte() : programme));
-    txtDestination_->setText(QtDe(ajout ? programme : Texte()));
+    txtSource_->setText(VersQt(!source.empty() ? source : ajout ? Texte() : programme));
+    txtDestination_->setText(VersQt(ajout ? programme : Texte()));
 
     auto* grille = new QGridLayout;
-    grille->addWidget(new QLabel(QtDe("Genre :"), this), 0, 0);
+    grille->addWidget(new QLabel(VersQt("Genre :"), this), 0, 0);
     grille->addWidget(comboGenre_, 0, 1, 1, 2);
-    grille->addWidget(new QLabel(QtDe("Source :"), this), 1, 0);
+    grille->addWidget(new QLabel(VersQt("Source :"), this), 1, 0);
     grille->addWidget(txtSource_, 1, 1);
     auto* cmdSource = new QPushButton("...", this);
     cmdSource->setObjectName("cmdSource");
     grille->addWidget(cmdSource, 1, 2);
-    grille->addWidget(new QLabel(QtDe("Destination :"), this), 2, 0);
+    grille->addWidget(new QLabel(VersQt("Destination :"), this), 2, 0);
     grille->addWidget(txtDestination_, 2, 1);
     auto* cmdDestination = new QPushButton("...", this);
     cmdDestination->setObjectName("cmdDestination");
@@ -84,11 +84,11 @@ FrmTrfMdl::FrmTrfMdl(Contexte& ctx, char mode, const Texte& tag, const Texte& so
         connect(b, &QPushButton::clicked, this, action);
         boutons->addWidget(b);
     };
-    auto* cmdTransferer = new QPushButton(QtDe("Transférer"), this);
+    auto* cmdTransferer = new QPushButton(VersQt("Transférer"), this);
     cmdTransferer->setObjectName("cmdTransferer");
-    auto* cmdSupprimer = new QPushButton(QtDe("Supprimer"), this);
+    auto* cmdSupprimer = new QPushButton(VersQt("Supprimer"), this);
     cmdSupprimer->setObjectName("cmdSupprimer");
-    auto* cmdSupprimerTout = new QPushButton(QtDe("Tout supprimer"), this);
+    auto* cmdSupprimerTout = new QPushButton(VersQt("Tout supprimer"), this);
     cmdSupprimerTout->setObjectName("cmdSupprimerTout");
     bouton(cmdToutTrf_, &FrmTrfMdl::ToutOuRien);
     bouton(cmdTransferer, &FrmTrfMdl::Transferer);
@@ -96,7 +96,7 @@ FrmTrfMdl::FrmTrfMdl(Contexte& ctx, char mode, const Texte& tag, const Texte& so
     bouton(cmdSupprimer, &FrmTrfMdl::Supprimer);
     bouton(cmdSupprimerTout, &FrmTrfMdl::SupprimerTout);
     bouton(cmdConvertir_, &FrmTrfMdl::Convertir);
-    auto* fermer = new QPushButton(QtDe("Fermer"), this);
+    auto* fermer = new QPushButton(VersQt("Fermer"), this);
     fermer->setObjectName("cmdFermer");
     connect(fermer, &QPushButton::clicked, this, &QDialog::reject);
     boutons->addWidget(fermer);
@@ -117,19 +117,19 @@ FrmTrfMdl::FrmTrfMdl(Contexte& ctx, char mode, const Texte& tag, const Texte& so
 }
 
 void FrmTrfMdl::PoserLegende(const Texte& legende) {
-    lblLegende_->setText(QtDe(legende));
+    lblLegende_->setText(VersQt(legende));
 }
 
 void FrmTrfMdl::Cocher(const Texte& nom) {
     for (int i = 0; i < lstFichiers_->topLevelItemCount(); ++i) {
         QTreeWidgetItem* item = lstFichiers_->topLevelItem(i);
-        if ((item->flags() & Qt::ItemIsUserCheckable) && TexteDe(item->text(0)) == nom)
+        if ((item->flags() & Qt::ItemIsUserCheckable) && DepuisQt(item->text(0)) == nom)
             item->setCheckState(0, Qt::Checked);
     }
 }
 
 Texte FrmTrfMdl::Tag() const {
-    return TexteDe(comboGenre_->currentData().toString());
+    return DepuisQt(comboGenre_->currentData().toString());
 }
 
 Texte FrmTrfMdl::RepertoireDuProgramme(const Texte& tag) const {
@@ -143,23 +143,23 @@ Texte FrmTrfMdl::RepertoireDuProgramme(const Texte& tag) const {
 void FrmTrfMdl::ChangerGenre() {
     const Texte programme = RepertoireDuProgramme(Tag());
     if (mode_ == 'A')
-        txtDestination_->setText(QtDe(programme));
+        txtDestination_->setText(VersQt(programme));
     else
-        txtSource_->setText(QtDe(programme));
+        txtSource_->setText(VersQt(programme));
     Lister();
 }
 
 void FrmTrfMdl::Lister() {
-    const Texte source = TexteDe(txtSource_->text());
+    const Texte source = DepuisQt(txtSource_->text());
     liste_ = ListerFichiers(ctx_.etat, source, Tag());
-    lblSource_->setText(QtDe(liste_.source));
-    setWindowIconText(QtDe(liste_.titre));
+    lblSource_->setText(VersQt(liste_.source));
+    setWindowIconText(VersQt(liste_.titre));
     RemplirListe(*lstFichiers_, liste_, true);
     const bool documents = Tag() == "DOC" || Tag() == "MDL";
     cmdRenommer_->setEnabled(documents);
     cmdConvertir_->setEnabled(Tag() == "DOC");
     tout_ = false;
-    cmdToutTrf_->setText(QtDe("Tout Trf."));
+    cmdToutTrf_->setText(VersQt("Tout Trf."));
     if (!Rogner(source).empty()) Signaler();
 }
 
@@ -169,18 +169,19 @@ void FrmTrfMdl::Signaler() {
 }
 
 void FrmTrfMdl::ChoisirSource() {
-    txtSource_->setText(QtDe(ChoisirRepertoire(ctx_, this, TexteDe(txtSource_->text()))));
+    txtSource_->setText(VersQt(ChoisirRepertoire(ctx_, this, DepuisQt(txtSource_->text()))));
     Lister();
 }
 
 void FrmTrfMdl::ChoisirDestination() {
-    txtDestination_->setText(QtDe(ChoisirRepertoire(ctx_, this, TexteDe(txtDestination_->text()))));
+    txtDestination_->setText(
+        VersQt(ChoisirRepertoire(ctx_, this, DepuisQt(txtDestination_->text()))));
 }
 
 void FrmTrfMdl::ToutOuRien() {
     tout_ = !tout_;
     CocherTout(*lstFichiers_, tout_);
-    cmdToutTrf_->setText(QtDe(tout_ ? "Rien Trf." : "Tout Trf."));
+    cmdToutTrf_->setText(VersQt(tout_ ? "Rien Trf." : "Tout Trf."));
 }
 
 void FrmTrfMdl::Transferer() {
@@ -190,7 +191,7 @@ void FrmTrfMdl::Transferer() {
                                Icone::Information);
         return;
     }
-    TransfererSelection(ctx_, liste_.dossier, TexteDe(txtDestination_->text()), Tag(), choix);
+    TransfererSelection(ctx_, liste_.dossier, DepuisQt(txtDestination_->text()), Tag(), choix);
 }
 
 void FrmTrfMdl::Renommer() {
@@ -202,11 +203,11 @@ void FrmTrfMdl::Renommer() {
     }
     bool ok = false;
     const QString nouveau = QInputDialog::getText(
-        this, QtDe("Renommer un document"),
-        QtDe("- Attribution d'un nouveau nom -\nDocument à renommer : " + choix[0].nom),
+        this, VersQt("Renommer un document"),
+        VersQt("- Attribution d'un nouveau nom -\nDocument à renommer : " + choix[0].nom),
         QLineEdit::Normal, QString(), &ok);
     if (!ok) return;
-    if (RenommerDocument(ctx_, liste_.dossier + choix[0].nom, TexteDe(nouveau))) Lister();
+    if (RenommerDocument(ctx_, liste_.dossier + choix[0].nom, DepuisQt(nouveau))) Lister();
 }
 
 void FrmTrfMdl::Supprimer() {

@@ -1,6 +1,6 @@
 #include "library/qt/ListeQt.h"
 
-#include "library/qt/TexteModeles.h"
+#include "utils/qt/TexteQt.h"
 
 #include <QHeaderView>
 
@@ -13,19 +13,19 @@ constexpr int kRangLigne = Qt::UserRole;
 void RemplirListe(QTreeWidget& arbre, const ListeFichiers& liste, bool cases) {
     arbre.clear();
     arbre.setColumnCount(5);
-    arbre.setHeaderLabels(
-        {QtDe(liste.colonneNom), QtDe("Type"), QtDe("Taille"), QtDe("Date"), QtDe("Heure")});
+    arbre.setHeaderLabels({VersQt(liste.colonneNom), VersQt("Type"), VersQt("Taille"),
+                           VersQt("Date"), VersQt("Heure")});
     arbre.setRootIsDecorated(false);
     arbre.setProperty("cases", cases);
     if (liste.Vide()) {
-        auto* vide = new QTreeWidgetItem(&arbre, {QtDe(liste.ligneVide)});
+        auto* vide = new QTreeWidgetItem(&arbre, {VersQt(liste.ligneVide)});
         vide->setFlags(Qt::NoItemFlags);
         return;
     }
     for (std::size_t i = 0; i < liste.lignes.size(); ++i) {
         const LigneListe& l = liste.lignes[i];
-        auto* item = new QTreeWidgetItem(
-            &arbre, {QtDe(l.nom), QtDe(l.type), QtDe(l.taille), QtDe(l.date), QtDe(l.heure)});
+        auto* item = new QTreeWidgetItem(&arbre, {VersQt(l.nom), VersQt(l.type), VersQt(l.taille),
+                                                  VersQt(l.date), VersQt(l.heure)});
         item->setData(0, kRangLigne, static_cast<int>(i));
         item->setTextAlignment(2, Qt::AlignRight | Qt::AlignVCenter);
         if (cases) {

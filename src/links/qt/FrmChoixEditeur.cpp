@@ -1,7 +1,7 @@
 #include "links/qt/FrmChoixEditeur.h"
 
 #include "shell/Options.h"
-#include "shell/qt/TexteQt.h"
+#include "utils/qt/TexteQt.h"
 
 #include <QFileDialog>
 #include <QFileInfo>

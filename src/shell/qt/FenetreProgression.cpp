@@ -1,6 +1,6 @@
 #include "shell/qt/FenetreProgression.h"
 
-#include "shell/qt/TexteQt.h"
+#include "utils/qt/TexteQt.h"
 
 #include <QApplication>
 #include <QLabel>

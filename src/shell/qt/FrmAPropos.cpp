@@ -2,7 +2,7 @@
 
 #include "shell/Proprietes.h"
 #include "shell/etat/Contexte.h"
-#include "shell/qt/TexteQt.h"
+#include "utils/qt/TexteQt.h"
 
 #include <QDialogButtonBox>
 #include <QHBoxLayout>

@@ -2,7 +2,7 @@
 
 #include "shell/MenusBarre.h"
 #include "shell/qt/Ecran.h"
-#include "shell/qt/TexteQt.h"
+#include "utils/qt/TexteQt.h"
 
 #include <QDesktopServices>
 #include <QHBoxLayout>

@@ -7,8 +7,8 @@
 #include "shell/qt/DockX11.h"
 #include "shell/qt/Ecran.h"
 #include "shell/qt/FrmMenu.h"
-#include "shell/qt/TexteQt.h"
 #include "utils/OutilsFichiers.h"
+#include "utils/qt/TexteQt.h"
 
 #include <QCloseEvent>
 #include <QCursor>

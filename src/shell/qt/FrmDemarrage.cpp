@@ -1,8 +1,8 @@
 #include "shell/qt/FrmDemarrage.h"
 
 #include "shell/etat/Contexte.h"
-#include "shell/qt/TexteQt.h"
 #include "utils/OutilsFichiers.h"
+#include "utils/qt/TexteQt.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

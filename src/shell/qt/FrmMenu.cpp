@@ -3,7 +3,7 @@
 #include "shell/Proprietes.h"
 #include "shell/etat/Contexte.h"
 #include "shell/qt/Ecran.h"
-#include "shell/qt/TexteQt.h"
+#include "utils/qt/TexteQt.h"
 
 #include <QCheckBox>
 #include <QDesktopServices>

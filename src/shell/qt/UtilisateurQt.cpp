@@ -2,7 +2,7 @@
 
 #include "shell/qt/FenetreProgression.h"
 #include "shell/qt/FrmAide.h"
-#include "shell/qt/TexteQt.h"
+#include "utils/qt/TexteQt.h"
 
 #include <QApplication>
 #include <QGuiApplication>
@@ -30,12 +30,6 @@ QMessageBox::Icon IconeQt(Icone icone) {
 }
 
 } // namespace
-
-bool EcranDisponible() {
-    if (QGuiApplication::instance() == nullptr) return false;
-    const QString p = QGuiApplication::platformName();
-    return p != QLatin1String("offscreen") && p != QLatin1String("minimal");
-}
 
 std::unique_ptr<PortUtilisateur> UtilisateurEcran(bool marlo) {
     if (!EcranDisponible()) return nullptr;

@@ -4,6 +4,7 @@
 
 #include "shell/etat/Annulation.h"
 #include "shell/etat/PortUtilisateur.h"
+#include "utils/qt/Ecran.h"
 
 #include <memory>
 
@@ -45,7 +46,5 @@ private:
 // A Qt user port when the program has a screen to show it on (not the off-screen platform);
 // null otherwise, and the console serves.
 std::unique_ptr<PortUtilisateur> UtilisateurEcran(bool marlo);
-// True when Qt draws on a real display.
-bool EcranDisponible();
 
 } // namespace verdane::qt

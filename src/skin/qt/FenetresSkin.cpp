@@ -1,5 +1,7 @@
 #include "skin/qt/FenetresSkin.h"
 
+#include "utils/qt/Ecran.h"
+
 #include "skin/qt/HabillageSkin.h"
 #include "utils/OutilsFichiers.h"
 
@@ -10,8 +12,7 @@ namespace verdane::qt {
 void InscrireFenetresSkin(Contexte& ctx) {
     auto* app = qobject_cast<QApplication*>(QCoreApplication::instance());
     if (!app || HabillageSkin::DeLApplication()) return;
-    const QString plateforme = QGuiApplication::platformName();
-    if (plateforme == "offscreen" || plateforme == "minimal") return;
+    if (!EcranDisponible()) return;
     Contexte* c = &ctx;
     auto* habillage = new HabillageSkin(
         [c](bool& definitif) -> std::shared_ptr<SkinQt> {

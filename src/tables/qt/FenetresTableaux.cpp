@@ -3,17 +3,16 @@
 #include "tables/qt/FrmInserTab.h"
 #include "tables/qt/FrmParamTab.h"
 
-#include <QGuiApplication>
+#include "utils/qt/Ecran.h"
 
 namespace verdane::qt {
 
 void InscrireFenetresTableaux(Contexte& ctx) {
-    const QString plateforme = QGuiApplication::platformName();
-    if (plateforme.isEmpty() || plateforme == QLatin1String("offscreen") ||
-        plateforme == QLatin1String("minimal"))
-        return;
+    if (!EcranDisponible()) return;
     ctx.formulaires.Inscrire("FrmInserTab", [](Contexte& c, const std::vector<Texte>& arguments) {
-        FrmInserTab forme(c, arguments.empty() ? Texte{} : arguments[0]);
+        // {code}, or {"Récupéré", code} from the reading of a selected code.
+        const Texte code = arguments.empty() ? Texte{} : arguments.back();
+        FrmInserTab forme(c, code == "Récupéré" ? Texte{} : code);
         forme.setWindowFlag(Qt::WindowStaysOnTopHint);
         forme.exec();
         return 0;

@@ -27,7 +27,7 @@ FrmAddRmvL::FrmAddRmvL(char mode, int nbLignes, int ligne, QWidget* parent) : QD
                         : mode == 'm' ? "Déplacement d'une ligne du tableau"
                         : mode == 'd' ? "Duplication d'une ligne du tableau"
                                       : "Suppression d'une ligne du tableau";
-    setWindowTitle(VersQString(titre));
+    setWindowTitle(VersQt(titre));
     txtLigne = new QSpinBox(this);
     txtLigne->setObjectName("txtLigne");
     txtLigne->setRange(mode == 'a' ? 0 : 1, std::max(nbLignes, 1));
@@ -38,19 +38,18 @@ FrmAddRmvL::FrmAddRmvL(char mode, int nbLignes, int ligne, QWidget* parent) : QD
     txtCible->setValue(std::clamp(ligne, 1, std::max(nbLignes, 1)));
     ComboPosition = new QComboBox(this);
     ComboPosition->setObjectName("ComboPosition");
-    ComboPosition->addItems({VersQString("avant"), VersQString("après")});
+    ComboPosition->addItems({VersQt("avant"), VersQt("après")});
     ComboPosition->setCurrentIndex(1);
 
     auto* formulaire = new QFormLayout(this);
     if (mode == 'a') {
-        formulaire->addRow(VersQString("Ajouter une ligne après la ligne n° (0 : en tête) :"),
-                           txtLigne);
+        formulaire->addRow(VersQt("Ajouter une ligne après la ligne n° (0 : en tête) :"), txtLigne);
     } else {
-        formulaire->addRow(VersQString("Ligne n° :"), txtLigne);
+        formulaire->addRow(VersQt("Ligne n° :"), txtLigne);
     }
     if (mode == 'm') {
-        formulaire->addRow(VersQString("La placer :"), ComboPosition);
-        formulaire->addRow(VersQString("la ligne n° :"), txtCible);
+        formulaire->addRow(VersQt("La placer :"), ComboPosition);
+        formulaire->addRow(VersQt("la ligne n° :"), txtCible);
     } else {
         ComboPosition->hide();
         txtCible->hide();

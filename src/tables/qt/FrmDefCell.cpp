@@ -13,7 +13,7 @@ namespace verdane::qt {
 
 FrmDefCell::FrmDefCell(const Cadre& cadre, QWidget* parent) : QDialog(parent) {
     setObjectName("FrmDefCell");
-    setWindowTitle(VersQString("Définition des cellules"));
+    setWindowTitle(VersQt("Définition des cellules"));
     auto* formulaire = new QFormLayout(this);
     static const char* const noms[] = {
         "Bordure haute :", "Bordure basse :", "Bordure gauche :", "Bordure droite :"};
@@ -23,7 +23,7 @@ FrmDefCell::FrmDefCell(const Cadre& cadre, QWidget* parent) : QDialog(parent) {
         ComboBord[b]->setObjectName(objets[b]);
         for (const char* t : {"aucune", "simple", "double"}) ComboBord[b]->addItem(t);
         ComboBord[b]->setCurrentIndex(cadre.bords[b]);
-        formulaire->addRow(VersQString(noms[b]), ComboBord[b]);
+        formulaire->addRow(VersQt(noms[b]), ComboBord[b]);
     }
     ComboFond = new QComboBox(this);
     ComboFond->setObjectName("ComboFond");
@@ -35,15 +35,15 @@ FrmDefCell::FrmDefCell(const Cadre& cadre, QWidget* parent) : QDialog(parent) {
         ComboFond->addItem(QIcon(pastille), QString::number(i));
     }
     ComboFond->setCurrentIndex(cadre.fond - 1);
-    formulaire->addRow(VersQString("Couleur de fond :"), ComboFond);
+    formulaire->addRow(VersQt("Couleur de fond :"), ComboFond);
 
     cmd1 = new QPushButton("1", this);
     cmd1->setObjectName("cmd1");
-    cmd1->setToolTip(VersQString("Appliquer à la cellule"));
+    cmd1->setToolTip(VersQt("Appliquer à la cellule"));
     cmdS = new QPushButton("S", this);
     cmdS->setObjectName("cmdS");
-    cmdS->setToolTip(VersQString("Appliquer à toutes les cellules de la ligne"));
-    cmdAnnuler = new QPushButton(VersQString("Annuler"), this);
+    cmdS->setToolTip(VersQt("Appliquer à toutes les cellules de la ligne"));
+    cmdAnnuler = new QPushButton(VersQt("Annuler"), this);
     cmdAnnuler->setObjectName("cmdAnnuler");
     auto* boutons = new QHBoxLayout;
     for (QPushButton* b : {cmd1, cmdS, cmdAnnuler}) {

@@ -19,16 +19,16 @@ FrmEnteteTab::FrmEnteteTab(std::int16_t typeEntete, std::int16_t pageDebut,
                            const std::string& images, QWidget* parent)
     : QDialog(parent), typeEntete_(typeEntete) {
     setObjectName("FrmEnteteTab");
-    setWindowTitle(VersQString("En-tête des tableaux répétés"));
+    setWindowTitle(VersQt("En-tête des tableaux répétés"));
     auto* tout = new QVBoxLayout(this);
-    tout->addWidget(new QLabel(VersQString("Cliquez l'en-tête voulu :"), this));
+    tout->addWidget(new QLabel(VersQt("Cliquez l'en-tête voulu :"), this));
     static const char* const fichiers[] = {"SansEntete.gif", "EnteteTypeMarlo.gif",
                                            "EnteteTypeCerfa.gif"};
     static const char* const textes[] = {"Sans en-tête", "En-tête type Marlo",
                                          "En-tête type Cerfa"};
     auto* choix = new QHBoxLayout;
     for (std::size_t i = 0; i < 3; ++i) {
-        auto* b = new QPushButton(VersQString(textes[i]), this);
+        auto* b = new QPushButton(VersQt(textes[i]), this);
         b->setObjectName(QStringLiteral("cmdEntete%1").arg(i));
         b->setCheckable(true);
         b->setAutoDefault(false);
@@ -45,14 +45,14 @@ FrmEnteteTab::FrmEnteteTab(std::int16_t typeEntete, std::int16_t pageDebut,
     tout->addLayout(choix);
     ComboPageDebut = new QComboBox(this);
     ComboPageDebut->setObjectName("ComboPageDebut");
-    for (const Texte& t : PagesDebutProposees()) ComboPageDebut->addItem(VersQString(t));
+    for (const Texte& t : PagesDebutProposees()) ComboPageDebut->addItem(VersQt(t));
     ComboPageDebut->setCurrentIndex(ChoixDePageDebut(pageDebut));
     auto* page = new QHBoxLayout;
-    page->addWidget(new QLabel(VersQString("Numéro de page de début :"), this));
+    page->addWidget(new QLabel(VersQt("Numéro de page de début :"), this));
     page->addWidget(ComboPageDebut);
     tout->addLayout(page);
-    auto* aide = new QLabel(VersQString("Pensez alors à insérer un saut de page en fin de votre "
-                                        "modèle de tableau !"),
+    auto* aide = new QLabel(VersQt("Pensez alors à insérer un saut de page en fin de votre "
+                                   "modèle de tableau !"),
                             this);
     aide->setWordWrap(true);
     tout->addWidget(aide);

@@ -37,12 +37,8 @@ constexpr int kRoleCle = Qt::UserRole;
 // Periods of the autosave, in minutes; 5 is proposed.
 constexpr int kPeriodes[] = {1, 2, 3, 4, 5, 15, 30};
 
-Texte DepuisQString(const QString& s) {
-    return Utf8VersCp1252(s.toStdString());
-}
-
 QPushButton* Bouton(QWidget* parent, const char* nom, const char* texte) {
-    auto* b = new QPushButton(VersQString(texte), parent);
+    auto* b = new QPushButton(VersQt(texte), parent);
     b->setObjectName(nom);
     b->setAutoDefault(false);
     return b;
@@ -53,7 +49,7 @@ QPushButton* Bouton(QWidget* parent, const char* nom, const char* texte) {
 FrmInserTab::FrmInserTab(Contexte& ctx, const Texte& code, QWidget* parent)
     : QDialog(parent), ctx_(ctx), editeur_(ctx), sauvegarde_(new QTimer(this)) {
     setObjectName("FrmInserTab");
-    setWindowTitle(VersQString("Edition - Insertion des Tableaux"));
+    setWindowTitle(VersQt("Edition - Insertion des Tableaux"));
 
     TreeViewTab = new QTreeWidget(this);
     TreeViewTab->setObjectName("TreeViewTab");
@@ -76,10 +72,10 @@ FrmInserTab::FrmInserTab(Contexte& ctx, const Texte& code, QWidget* parent)
     txtSousDossier->setObjectName("txtSousDossier");
     ComboGenre = new QComboBox(this);
     ComboGenre->setObjectName("ComboGenre");
-    for (const Texte& t : TextesGenresTableau()) ComboGenre->addItem(VersQString(t));
+    for (const Texte& t : TextesGenresTableau()) ComboGenre->addItem(VersQt(t));
     ComboAnnees = new QComboBox(this);
     ComboAnnees->setObjectName("ComboAnnees");
-    for (const Texte& t : TextesAnneesTableau()) ComboAnnees->addItem(VersQString(t));
+    for (const Texte& t : TextesAnneesTableau()) ComboAnnees->addItem(VersQt(t));
     txtNbColonnes = new QSpinBox(this);
     txtNbColonnes->setObjectName("txtNbColonnes");
     txtNbColonnes->setRange(1, kMaxColonnesLibelle);
@@ -87,22 +83,22 @@ FrmInserTab::FrmInserTab(Contexte& ctx, const Texte& code, QWidget* parent)
     txtLargeurValeurs->setObjectName("txtLargeurValeurs");
     txtLargeurValeurs->setRange(100, 30000);
     txtLargeurValeurs->setSingleStep(100);
-    txtLargeurValeurs->setToolTip(VersQString(
+    txtLargeurValeurs->setToolTip(VersQt(
         "Par exemple, si vous choisissez une largeur de 9000 pour les colonnes de valeurs et que "
         "vous créez le tableau lorsque le dossier Marlo lié comporte 6 années d'exercice, la "
         "largeur de chaque colonne de valeur sera donc de 9000 / 6, soit 1500."));
-    CheckCentre = new QCheckBox(VersQString("Centré sur la page"), this);
+    CheckCentre = new QCheckBox(VersQt("Centré sur la page"), this);
     CheckCentre->setObjectName("CheckCentre");
-    CheckRouge = new QCheckBox(VersQString("Valeurs négatives en rouge"), this);
+    CheckRouge = new QCheckBox(VersQt("Valeurs négatives en rouge"), this);
     CheckRouge->setObjectName("CheckRouge");
     auto* proprietes = new QFormLayout;
-    proprietes->addRow(VersQString("Nom :"), txtNom);
-    proprietes->addRow(VersQString("Dossier :"), txtDossier);
-    proprietes->addRow(VersQString("Sous-dossier :"), txtSousDossier);
-    proprietes->addRow(VersQString("Type de tableau :"), ComboGenre);
-    proprietes->addRow(VersQString("Années :"), ComboAnnees);
-    proprietes->addRow(VersQString("Colonnes de libellé :"), txtNbColonnes);
-    proprietes->addRow(VersQString("Largeur des valeurs :"), txtLargeurValeurs);
+    proprietes->addRow(VersQt("Nom :"), txtNom);
+    proprietes->addRow(VersQt("Dossier :"), txtDossier);
+    proprietes->addRow(VersQt("Sous-dossier :"), txtSousDossier);
+    proprietes->addRow(VersQt("Type de tableau :"), ComboGenre);
+    proprietes->addRow(VersQt("Années :"), ComboAnnees);
+    proprietes->addRow(VersQt("Colonnes de libellé :"), txtNbColonnes);
+    proprietes->addRow(VersQt("Largeur des valeurs :"), txtLargeurValeurs);
     auto* cases = new QHBoxLayout;
     cases->addWidget(CheckCentre);
     cases->addWidget(CheckRouge);
@@ -113,7 +109,7 @@ FrmInserTab::FrmInserTab(Contexte& ctx, const Texte& code, QWidget* parent)
     GrilleApercu->setEditTriggers(QAbstractItemView::NoEditTriggers);
     GrilleApercu->setSelectionBehavior(QAbstractItemView::SelectRows);
     GrilleApercu->setSelectionMode(QAbstractItemView::SingleSelection);
-    GrilleApercu->setToolTip(VersQString("Double-clic : définition de la ligne"));
+    GrilleApercu->setToolTip(VersQt("Double-clic : définition de la ligne"));
     cmdAjouter = Bouton(this, "cmdAjouter", "Ajouter une ligne");
     cmdSupprLigne = Bouton(this, "cmdSupprLigne", "Supprimer une ligne");
     cmdDeplacer = Bouton(this, "cmdDeplacer", "Déplacer une ligne");
@@ -131,9 +127,9 @@ FrmInserTab::FrmInserTab(Contexte& ctx, const Texte& code, QWidget* parent)
     for (QPushButton* b : {cmdCellule, cmdTaille, cmdLargeur, cmdEntete, cmdParametres})
         cellules->addWidget(b);
 
-    CheckSauvegarde = new QCheckBox(VersQString("Sauvegarde automatique toutes les"), this);
+    CheckSauvegarde = new QCheckBox(VersQt("Sauvegarde automatique toutes les"), this);
     CheckSauvegarde->setObjectName("CheckSauvegarde");
-    CheckSauvegarde->setToolTip(VersQString(
+    CheckSauvegarde->setToolTip(VersQt(
         "Sans elle, la bibliothèque est enregistrée à la fermeture de l'éditeur. Cependant, en "
         "cas de plantage ou de panne de courant par exemple, cette sauvegarde temporaire serait "
         "perdue."));
@@ -152,7 +148,7 @@ FrmInserTab::FrmInserTab(Contexte& ctx, const Texte& code, QWidget* parent)
 
     auto* droite = new QVBoxLayout;
     droite->addLayout(proprietes);
-    droite->addWidget(new QLabel(VersQString("Aperçu du tableau :"), this));
+    droite->addWidget(new QLabel(VersQt("Aperçu du tableau :"), this));
     droite->addWidget(GrilleApercu, 1);
     droite->addLayout(lignes);
     droite->addLayout(cellules);
@@ -181,7 +177,7 @@ FrmInserTab::FrmInserTab(Contexte& ctx, const Texte& code, QWidget* parent)
     connect(cmdAnnuler, &QPushButton::clicked, this, [this] { Annuler(); });
     connect(TreeViewTab, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) {
         if (chargement_ || item == nullptr) return;
-        const int n = NumeroTableau(DepuisQString(item->data(0, kRoleCle).toString()));
+        const int n = NumeroTableau(DepuisQt(item->data(0, kRoleCle).toString()));
         if (n > 0) {
             editeur_.Selectionner(n);
             MontrerTableau();
@@ -225,8 +221,8 @@ void FrmInserTab::RemplirArbre() {
     for (const NoeudTableau& n : ArbreTableaux(editeur_.Tableaux())) {
         auto* item = n.parent.empty() ? new QTreeWidgetItem(TreeViewTab)
                                       : new QTreeWidgetItem(items[n.parent]);
-        item->setText(0, VersQString(n.texte));
-        item->setData(0, kRoleCle, VersQString(n.cle));
+        item->setText(0, VersQt(n.texte));
+        item->setData(0, kRoleCle, VersQt(n.cle));
         items[n.cle] = item;
         if (n.cle == courant) choisi = item;
     }
@@ -244,9 +240,9 @@ void FrmInserTab::MontrerTableau() {
              cmdDupliquer, cmdTexte, cmdInserer})
         w->setEnabled(t != nullptr);
     if (t) {
-        txtNom->setText(VersQString(Rogner(t->nom)));
-        txtDossier->setText(VersQString(Rogner(t->dossier)));
-        txtSousDossier->setText(VersQString(Rogner(t->sousDossier)));
+        txtNom->setText(VersQt(Rogner(t->nom)));
+        txtDossier->setText(VersQt(Rogner(t->dossier)));
+        txtSousDossier->setText(VersQt(Rogner(t->sousDossier)));
         ComboGenre->setCurrentIndex(std::clamp<int>(t->genre, 0, 3));
         ComboAnnees->setCurrentIndex(std::clamp<int>(t->modeAnnees, 0, 2));
         txtNbColonnes->setValue(t->ColonnesLibelle());
@@ -272,13 +268,12 @@ void FrmInserTab::MontrerApercu() {
     GrilleApercu->setColumnCount(static_cast<int>(a.entetes.size()));
     GrilleApercu->setRowCount(static_cast<int>(a.rangees.size()));
     QStringList entetes;
-    for (const Texte& e : a.entetes) entetes << VersQString(e);
+    for (const Texte& e : a.entetes) entetes << VersQt(e);
     GrilleApercu->setHorizontalHeaderLabels(entetes);
     for (int r = 0; r < static_cast<int>(a.rangees.size()); ++r) {
         const RangeeApercu& rangee = a.rangees[static_cast<std::size_t>(r)];
         for (int c = 0; c < static_cast<int>(rangee.cellules.size()); ++c) {
-            auto* item =
-                new QTableWidgetItem(VersQString(rangee.cellules[static_cast<std::size_t>(c)]));
+            auto* item = new QTableWidgetItem(VersQt(rangee.cellules[static_cast<std::size_t>(c)]));
             if (c >= a.colonnesLibelle) item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
             if (rangee.gras && c < a.colonnesLibelle) {
                 QFont f = item->font();
@@ -296,9 +291,9 @@ void FrmInserTab::MontrerApercu() {
 void FrmInserTab::SauverProprietes() {
     TableauModele* t = editeur_.Tableau();
     if (chargement_ || t == nullptr) return;
-    const Texte dossier = Rogner(DepuisQString(txtDossier->text()));
-    const Texte sousDossier = Rogner(DepuisQString(txtSousDossier->text()));
-    bool arbre = Rogner(DepuisQString(txtNom->text())) != Rogner(t->nom);
+    const Texte dossier = Rogner(DepuisQt(txtDossier->text()));
+    const Texte sousDossier = Rogner(DepuisQt(txtSousDossier->text()));
+    bool arbre = Rogner(DepuisQt(txtNom->text())) != Rogner(t->nom);
     if (dossier != Rogner(t->dossier) && editeur_.NomDossierAccepte(dossier, false)) {
         t->dossier = dossier;
         arbre = true;
@@ -308,7 +303,7 @@ void FrmInserTab::SauverProprietes() {
         t->sousDossier = sousDossier;
         arbre = true;
     }
-    t->nom = DepuisQString(txtNom->text());
+    t->nom = DepuisQt(txtNom->text());
     t->modeAnnees = static_cast<std::int16_t>(ComboAnnees->currentIndex());
     t->nbColonnes = static_cast<std::int16_t>(txtNbColonnes->value());
     t->largeurValeurs = static_cast<std::int16_t>(txtLargeurValeurs->value());
@@ -336,7 +331,7 @@ void FrmInserTab::NouveauTableau() {
 
 void FrmInserTab::Supprimer() {
     QTreeWidgetItem* item = TreeViewTab->currentItem();
-    const Texte cle = item ? DepuisQString(item->data(0, kRoleCle).toString()) : Texte{};
+    const Texte cle = item ? DepuisQt(item->data(0, kRoleCle).toString()) : Texte{};
     bool fait = false;
     if (CommencePar(cle, "#ssDoss##")) {
         const Texte reste = cle.substr(9);

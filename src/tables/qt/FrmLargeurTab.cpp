@@ -14,9 +14,9 @@ namespace verdane::qt {
 FrmLargeurTab::FrmLargeurTab(int colonne, int nbColonnes, int largeur, QWidget* parent)
     : QDialog(parent) {
     setObjectName("FrmLargeurTab");
-    setWindowTitle(VersQString("Largeur des colonnes"));
+    setWindowTitle(VersQt("Largeur des colonnes"));
     auto* tout = new QVBoxLayout(this);
-    auto* question = new QLabel(VersQString(QuestionLargeur(colonne, nbColonnes)), this);
+    auto* question = new QLabel(VersQt(QuestionLargeur(colonne, nbColonnes)), this);
     question->setObjectName("lblQuestion");
     tout->addWidget(question);
     txtLargeur = new QSpinBox(this);
@@ -27,7 +27,7 @@ FrmLargeurTab::FrmLargeurTab(int colonne, int nbColonnes, int largeur, QWidget* 
     txtLargeur->setValue(largeur);
     tout->addWidget(txtLargeur);
     if (colonne <= 0) {
-        auto* aide = new QLabel(VersQString(AideLargeurValeurs()), this);
+        auto* aide = new QLabel(VersQt(AideLargeurValeurs()), this);
         aide->setObjectName("lblAide");
         aide->setWordWrap(true);
         tout->addWidget(aide);

@@ -22,7 +22,7 @@ constexpr int kTailles[] = {8, 9, 10, 11, 12, 14, 16, 18, 20, 22, 24, 26, 28, 36
 
 FrmParamTab::FrmParamTab(Contexte& ctx, QWidget* parent) : QDialog(parent), ctx_(ctx) {
     setObjectName("FrmParamTab");
-    setWindowTitle(VersQString("Paramètres par défaut des tableaux"));
+    setWindowTitle(VersQt("Paramètres par défaut des tableaux"));
     for (int g = 0; g < 6; ++g) {
         const auto paire = PaireDefaut(ctx.etat.options, g);
         formats_[static_cast<std::size_t>(2 * g)] = paire[0];
@@ -36,28 +36,27 @@ FrmParamTab::FrmParamTab(Contexte& ctx, QWidget* parent) : QDialog(parent), ctx_
     ComboTaille->setCurrentIndex(taille >= 0 ? taille : 2);
     ComboAlignement = new QComboBox(this);
     ComboAlignement->setObjectName("ComboAlignement");
-    for (const Texte& t : TextesAlignements()) ComboAlignement->addItem(VersQString(t));
-    ComboAlignement->setCurrentText(
-        VersQString(TexteAlignement(ctx.etat.options.AlignementDefaut)));
+    for (const Texte& t : TextesAlignements()) ComboAlignement->addItem(VersQt(t));
+    ComboAlignement->setCurrentText(VersQt(TexteAlignement(ctx.etat.options.AlignementDefaut)));
     ComboGenre = new QComboBox(this);
     ComboGenre->setObjectName("ComboGenre");
-    for (const Texte& t : TextesGenresDefauts()) ComboGenre->addItem(VersQString(t));
-    formulaire->addRow(VersQString("Taille du texte par défaut :"), ComboTaille);
-    formulaire->addRow(VersQString("Alignement par défaut :"), ComboAlignement);
-    formulaire->addRow(VersQString("Cadres des lignes de type :"), ComboGenre);
+    for (const Texte& t : TextesGenresDefauts()) ComboGenre->addItem(VersQt(t));
+    formulaire->addRow(VersQt("Taille du texte par défaut :"), ComboTaille);
+    formulaire->addRow(VersQt("Alignement par défaut :"), ComboAlignement);
+    formulaire->addRow(VersQt("Cadres des lignes de type :"), ComboGenre);
     static const char* const cotes[] = {"Cellules de libellé :", "Cellules de valeurs :"};
     for (int cote = 0; cote < 2; ++cote) {
         auto* ligne = new QHBoxLayout;
         lblCadre[static_cast<std::size_t>(cote)] = new QLabel(this);
         lblCadre[static_cast<std::size_t>(cote)]->setObjectName(cote == 0 ? "lblCadreLibelle"
                                                                           : "lblCadreValeur");
-        auto* b = new QPushButton(VersQString("Définir..."), this);
+        auto* b = new QPushButton(VersQt("Définir..."), this);
         b->setObjectName(cote == 0 ? "cmdCadreLibelle" : "cmdCadreValeur");
         b->setAutoDefault(false);
         cmdCadre[static_cast<std::size_t>(cote)] = b;
         ligne->addWidget(lblCadre[static_cast<std::size_t>(cote)], 1);
         ligne->addWidget(b);
-        formulaire->addRow(VersQString(cotes[cote]), ligne);
+        formulaire->addRow(VersQt(cotes[cote]), ligne);
         connect(b, &QPushButton::clicked, this, [this, cote] { EditerCadre(cote); });
     }
     auto* boutons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
@@ -71,7 +70,7 @@ FrmParamTab::FrmParamTab(Contexte& ctx, QWidget* parent) : QDialog(parent), ctx_
 void FrmParamTab::MontrerGenre() {
     const int g = std::max(0, ComboGenre->currentIndex());
     for (std::size_t cote = 0; cote < 2; ++cote)
-        lblCadre[cote]->setText(VersQString(formats_[static_cast<std::size_t>(2 * g) + cote]));
+        lblCadre[cote]->setText(VersQt(formats_[static_cast<std::size_t>(2 * g) + cote]));
 }
 
 void FrmParamTab::EditerCadre(int cote) {
@@ -85,7 +84,7 @@ void FrmParamTab::EditerCadre(int cote) {
 
 void FrmParamTab::accept() {
     if (ValiderParametres(ctx_, ComboTaille->currentData().toInt(),
-                          DepuisQString(ComboAlignement->currentText()), formats_))
+                          DepuisQt(ComboAlignement->currentText()), formats_))
         QDialog::accept();
 }
 

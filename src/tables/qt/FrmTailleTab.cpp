@@ -17,8 +17,8 @@ QComboBox* Liste(QWidget* parent, const char* nom, const std::vector<Texte>& tex
     auto* c = new QComboBox(parent);
     c->setObjectName(nom);
     c->setEditable(true);
-    for (const Texte& t : textes) c->addItem(VersQString(t));
-    c->setCurrentText(VersQString(courant));
+    for (const Texte& t : textes) c->addItem(VersQt(t));
+    c->setCurrentText(VersQt(courant));
     return c;
 }
 
@@ -26,21 +26,21 @@ QComboBox* Liste(QWidget* parent, const char* nom, const std::vector<Texte>& tex
 
 FrmTailleTab::FrmTailleTab(int hauteur, int retrait, QWidget* parent) : QDialog(parent) {
     setObjectName("FrmTailleTab");
-    setWindowTitle(VersQString("Taille de la ligne"));
+    setWindowTitle(VersQt("Taille de la ligne"));
     auto* formulaire = new QFormLayout(this);
     ComboHauteur = Liste(this, "ComboHauteur", HauteursProposees(), TexteHauteur(hauteur));
     ComboRetrait = Liste(this, "ComboRetrait", RetraitsProposes(), std::to_string(retrait));
-    formulaire->addRow(VersQString("Hauteur de la ligne :"), ComboHauteur);
-    formulaire->addRow(VersQString("Retrait dans les cellules :"), ComboRetrait);
+    formulaire->addRow(VersQt("Hauteur de la ligne :"), ComboHauteur);
+    formulaire->addRow(VersQt("Retrait dans les cellules :"), ComboRetrait);
     formulaire->addRow(BoutonsOkAnnuler(this));
 }
 
 std::optional<std::int16_t> FrmTailleTab::Hauteur() const {
-    return HauteurDeTexte(DepuisQString(ComboHauteur->currentText()));
+    return HauteurDeTexte(DepuisQt(ComboHauteur->currentText()));
 }
 
 std::optional<std::int16_t> FrmTailleTab::Retrait() const {
-    const auto r = HauteurDeTexte(DepuisQString(ComboRetrait->currentText()));
+    const auto r = HauteurDeTexte(DepuisQt(ComboRetrait->currentText()));
     // "AUTO" means nothing for a gap.
     if (r && *r == 0 && ComboRetrait->currentText().trimmed() != "0") return std::nullopt;
     return r;

@@ -47,8 +47,8 @@ Page PageDuType(TypeLigne type) {
 void AjouterCatalogue(QTreeWidgetItem* parent, const NoeudCatalogue& noeud) {
     for (const NoeudCatalogue& n : noeud.enfants) {
         auto* item = new QTreeWidgetItem(parent);
-        item->setText(0, VersQString(n.texte));
-        item->setData(0, kRoleCle, VersQString(n.cle));
+        item->setText(0, VersQt(n.texte));
+        item->setData(0, kRoleCle, VersQt(n.cle));
         AjouterCatalogue(item, n);
     }
 }
@@ -68,18 +68,17 @@ FrmTexte::FrmTexte(Contexte& ctx, const TableauModele& tableau, int numero, QWid
     : QDialog(parent), ctx_(ctx), tableau_(tableau), numero_(numero) {
     if (const LigneModele* l = tableau.Ligne(numero)) ligne_ = *l;
     setObjectName("FrmTexte");
-    setWindowTitle(VersQString("Définition de la ligne n°" + std::to_string(numero)));
+    setWindowTitle(VersQt("Définition de la ligne n°" + std::to_string(numero)));
     auto* tout = new QVBoxLayout(this);
     auto* formulaire = new QFormLayout;
     tout->addLayout(formulaire);
     ComboGenre = new QComboBox(this);
     ComboGenre->setObjectName("ComboGenre");
-    for (const Texte& t : TextesTypesLigne()) ComboGenre->addItem(VersQString(t));
+    for (const Texte& t : TextesTypesLigne()) ComboGenre->addItem(VersQt(t));
     ComboGenre->setCurrentIndex(static_cast<int>(TypeDeLigne(ligne_)));
-    formulaire->addRow(VersQString("Type de ligne :"), ComboGenre);
+    formulaire->addRow(VersQt("Type de ligne :"), ComboGenre);
     for (int c = 0; c < tableau.ColonnesLibelle(); ++c) {
-        auto* b =
-            new QLineEdit(VersQString(ligne_.cellules[static_cast<std::size_t>(c)].texte), this);
+        auto* b = new QLineEdit(VersQt(ligne_.cellules[static_cast<std::size_t>(c)].texte), this);
         b->setObjectName(QStringLiteral("txtLibelle%1").arg(c + 1));
         // A line end can't stand in a cell's text.
         connect(b, &QLineEdit::returnPressed, this, [this] {
@@ -90,7 +89,7 @@ FrmTexte::FrmTexte(Contexte& ctx, const TableauModele& tableau, int numero, QWid
                 "Edition - Insertion des Tableaux", Icone::Information);
         });
         txtLibelle.push_back(b);
-        formulaire->addRow(VersQString("Libellé " + std::to_string(c + 1) + " :"), b);
+        formulaire->addRow(VersQt("Libellé " + std::to_string(c + 1) + " :"), b);
     }
 
     lblTitre = new QLabel(this);
@@ -109,7 +108,7 @@ FrmTexte::FrmTexte(Contexte& ctx, const TableauModele& tableau, int numero, QWid
     ComboFormeEntete = new QComboBox(this);
     ComboFormeEntete->setObjectName("ComboFormeEntete");
     for (const FormeEntete& f : FormesEntete(tableau.multiDossier != 0))
-        ComboFormeEntete->addItem(VersQString(f.libelle), VersQString(f.forme));
+        ComboFormeEntete->addItem(VersQt(f.libelle), VersQt(f.forme));
     lblExemple = new QLabel(this);
     lblExemple->setObjectName("lblExemple");
     txtDebut = new QLineEdit(this);
@@ -121,7 +120,7 @@ FrmTexte::FrmTexte(Contexte& ctx, const TableauModele& tableau, int numero, QWid
     txtFin->setEnabled(paire);
     d->addWidget(ComboFormeEntete);
     d->addWidget(lblExemple);
-    d->addWidget(new QLabel(VersQString("Début/Fin prévision :"), this));
+    d->addWidget(new QLabel(VersQt("Début/Fin prévision :"), this));
     d->addWidget(txtDebut);
     d->addWidget(txtFin);
 
@@ -132,16 +131,16 @@ FrmTexte::FrmTexte(Contexte& ctx, const TableauModele& tableau, int numero, QWid
     TreeViewSeries->setHeaderHidden(true);
     const ArbreCatalogue series = SeriesProposees(ctx.etat.chemins.RepDatacfg);
     auto* racine = new QTreeWidgetItem(TreeViewSeries);
-    racine->setText(0, VersQString(series.racine.texte));
+    racine->setText(0, VersQt(series.racine.texte));
     AjouterCatalogue(racine, series.racine);
     racine->setExpanded(true);
     d->addWidget(TreeViewSeries);
 
     // Spacing: nothing to define.
     NouvellePage(PagesValeurs, d);
-    auto* espace = new QLabel(VersQString("Pour insérer un commentaire dans cet espace et lui "
-                                          "affecter une mise en forme, cliquez l'autre bouton à "
-                                          "gauche sur la ligne."),
+    auto* espace = new QLabel(VersQt("Pour insérer un commentaire dans cet espace et lui "
+                                     "affecter une mise en forme, cliquez l'autre bouton à "
+                                     "gauche sur la ligne."),
                               this);
     espace->setWordWrap(true);
     d->addWidget(espace);
@@ -165,22 +164,22 @@ FrmTexte::FrmTexte(Contexte& ctx, const TableauModele& tableau, int numero, QWid
     ds->addWidget(ComboLigneA);
     ds->addWidget(ComboOperateur);
     ds->addWidget(ComboLigneB);
-    OngletsTotal->addTab(simple, VersQString("Simple"));
+    OngletsTotal->addTab(simple, VersQt("Simple"));
     auto* libre = new QWidget(OngletsTotal);
     auto* dl = new QVBoxLayout(libre);
     txtFormule = new QLineEdit(libre);
     txtFormule->setObjectName("txtFormule");
-    auto* cmdClair = new QPushButton(VersQString("Formule en clair"), libre);
+    auto* cmdClair = new QPushButton(VersQt("Formule en clair"), libre);
     cmdClair->setObjectName("cmdFormuleClair");
     cmdClair->setAutoDefault(false);
     dl->addWidget(txtFormule);
     dl->addWidget(cmdClair);
-    OngletsTotal->addTab(libre, VersQString("Formule"));
+    OngletsTotal->addTab(libre, VersQt("Formule"));
     d->addWidget(OngletsTotal);
 
     // Pre-defined lines.
     NouvellePage(PagesValeurs, d);
-    d->addWidget(new QLabel(VersQString("Choisissez un type de lignes :"), this));
+    d->addWidget(new QLabel(VersQt("Choisissez un type de lignes :"), this));
     TreeViewPredefinies = new QTreeWidget(this);
     TreeViewPredefinies->setObjectName("TreeViewPredefinies");
     TreeViewPredefinies->setHeaderHidden(true);
@@ -188,8 +187,8 @@ FrmTexte::FrmTexte(Contexte& ctx, const TableauModele& tableau, int numero, QWid
     for (const NoeudTableau& n : CataloguePredefinies()) {
         auto* item = n.parent.empty() ? new QTreeWidgetItem(TreeViewPredefinies)
                                       : new QTreeWidgetItem(items[n.parent]);
-        item->setText(0, VersQString(n.texte));
-        item->setData(0, kRoleCle, VersQString(n.cle));
+        item->setText(0, VersQt(n.texte));
+        item->setData(0, kRoleCle, VersQt(n.cle));
         items[n.cle] = item;
     }
     TreeViewPredefinies->expandAll();
@@ -199,22 +198,22 @@ FrmTexte::FrmTexte(Contexte& ctx, const TableauModele& tableau, int numero, QWid
     NouvellePage(PagesValeurs, d);
     txtCle = new QLineEdit(this);
     txtCle->setObjectName("txtCle");
-    d->addWidget(new QLabel(VersQString("Clé de la valeur :"), this));
+    d->addWidget(new QLabel(VersQt("Clé de la valeur :"), this));
     d->addWidget(txtCle);
 
     static_cast<QVBoxLayout*>(d)->addStretch(1);
     auto* communs = new QFormLayout;
     ComboDecimales = new QComboBox(this);
     ComboDecimales->setObjectName("ComboDecimales");
-    for (const Texte& t : TextesDecimales()) ComboDecimales->addItem(VersQString(t));
+    for (const Texte& t : TextesDecimales()) ComboDecimales->addItem(VersQt(t));
     ComboRegleZero = new QComboBox(this);
     ComboRegleZero->setObjectName("ComboRegleZero");
-    for (const Texte& t : TextesReglesZero()) ComboRegleZero->addItem(VersQString(t));
-    communs->addRow(VersQString("Décimales :"), ComboDecimales);
-    communs->addRow(VersQString("Valeurs nulles :"), ComboRegleZero);
-    txtDefinition = new QLineEdit(VersQString(ligne_.definition), this);
+    for (const Texte& t : TextesReglesZero()) ComboRegleZero->addItem(VersQt(t));
+    communs->addRow(VersQt("Décimales :"), ComboDecimales);
+    communs->addRow(VersQt("Valeurs nulles :"), ComboRegleZero);
+    txtDefinition = new QLineEdit(VersQt(ligne_.definition), this);
     txtDefinition->setObjectName("txtDefinition");
-    communs->addRow(VersQString("Définition des valeurs :"), txtDefinition);
+    communs->addRow(VersQt("Définition des valeurs :"), txtDefinition);
     tout->addLayout(communs);
 
     auto* boutons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
@@ -231,10 +230,10 @@ FrmTexte::FrmTexte(Contexte& ctx, const TableauModele& tableau, int numero, QWid
         AppliquerTypeLigne(l, static_cast<TypeLigne>(genre), ctx_.etat.options,
                            tableau_.ColonnesLibelle());
         for (std::size_t c = 0; c < txtLibelle.size(); ++c)
-            txtLibelle[c]->setText(VersQString(l.cellules[c].texte));
+            txtLibelle[c]->setText(VersQt(l.cellules[c].texte));
         ligne_ = l;
         Relire(l.definition);
-        txtDefinition->setText(VersQString(l.definition));
+        txtDefinition->setText(VersQt(l.definition));
         MontrerPage();
     });
     connect(ComboFormeEntete, &QComboBox::currentIndexChanged, this, [this] { Composer(); });
@@ -245,7 +244,7 @@ FrmTexte::FrmTexte(Contexte& ctx, const TableauModele& tableau, int numero, QWid
     connect(OngletsTotal, &QTabWidget::currentChanged, this, [this] { Composer(); });
     connect(TreeViewSeries, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) {
         if (item == nullptr || !item->data(0, kRoleCle).toString().contains('+')) return;
-        libelleSerie_ = DepuisQString(item->text(0));
+        libelleSerie_ = DepuisQt(item->text(0));
         Composer();
     });
     connect(TreeViewPredefinies, &QTreeWidget::currentItemChanged, this, [this] { Composer(); });
@@ -260,8 +259,8 @@ FrmTexte::FrmTexte(Contexte& ctx, const TableauModele& tableau, int numero, QWid
                     return l->cellules[static_cast<std::size_t>(c)].texte;
             return Texte{};
         };
-        const Texte clair = SubstituerFormule(
-            ctx_, FormuleStockee(DepuisQString(txtFormule->text())), kColonneLibelles, t);
+        const Texte clair = SubstituerFormule(ctx_, FormuleStockee(DepuisQt(txtFormule->text())),
+                                              kColonneLibelles, t);
         ctx_.utilisateur.Boite(clair, "Formule en clair :", Icone::Information);
     });
 
@@ -286,7 +285,7 @@ void FrmTexte::MontrerPage() {
     Texte titre = titres[page];
     if (page == kPageRepetee)
         titre = "Définition d'une ligne de valeurs pour les " + TitreSerieRepetee(type);
-    lblTitre->setText(VersQString(titre));
+    lblTitre->setText(VersQt(titre));
     const bool valeurs = page == kPageSerie || page == kPageTotal || page == kPageRepetee;
     ComboDecimales->setEnabled(valeurs);
     ComboRegleZero->setEnabled(valeurs);
@@ -296,23 +295,23 @@ void FrmTexte::MontrerPage() {
 void FrmTexte::Relire(const Texte& definition) {
     chargement_ = true;
     const DefinitionEntete e = LireEntete(definition);
-    const int forme = ComboFormeEntete->findData(VersQString(e.forme));
+    const int forme = ComboFormeEntete->findData(VersQt(e.forme));
     ComboFormeEntete->setCurrentIndex(std::max(0, forme));
-    txtDebut->setText(VersQString(e.debut));
-    txtFin->setText(VersQString(e.fin));
+    txtDebut->setText(VersQt(e.debut));
+    txtFin->setText(VersQt(e.fin));
     const DefinitionValeurs v = LireValeurs(definition);
     ComboDecimales->setCurrentIndex(ChoixDeDecimales(v.decimales));
     ComboRegleZero->setCurrentIndex(v.regleZero);
-    txtCle->setText(VersQString(v.code));
+    txtCle->setText(VersQt(v.code));
     int a = 0, b = 0;
     Texte op;
     if (v.mot == "totalS" && LireFormuleSimple(v.code, a, op, b)) {
         ComboLigneA->setCurrentIndex(ComboLigneA->findData(a));
-        ComboOperateur->setCurrentText(VersQString(op));
+        ComboOperateur->setCurrentText(VersQt(op));
         ComboLigneB->setCurrentIndex(ComboLigneB->findData(b));
         OngletsTotal->setCurrentIndex(0);
     } else if (v.mot == "totalC") {
-        txtFormule->setText(VersQString(v.code));
+        txtFormule->setText(VersQt(v.code));
         OngletsTotal->setCurrentIndex(1);
     }
     chargement_ = false;
@@ -321,10 +320,9 @@ void FrmTexte::Relire(const Texte& definition) {
 void FrmTexte::MontrerExemple() {
     const auto& formes = FormesEntete(tableau_.multiDossier != 0);
     const int i = ComboFormeEntete->currentIndex();
-    lblExemple->setText(
-        i >= 0 && i < static_cast<int>(formes.size())
-            ? VersQString("Exemple : " + formes[static_cast<std::size_t>(i)].exemple)
-            : QString());
+    lblExemple->setText(i >= 0 && i < static_cast<int>(formes.size())
+                            ? VersQt("Exemple : " + formes[static_cast<std::size_t>(i)].exemple)
+                            : QString());
 }
 
 void FrmTexte::Composer() {
@@ -334,12 +332,12 @@ void FrmTexte::Composer() {
     DefinitionValeurs v;
     v.decimales = DecimalesDeChoix(ComboDecimales->currentIndex());
     v.regleZero = std::max(0, ComboRegleZero->currentIndex());
-    Texte definition = DepuisQString(txtDefinition->text());
+    Texte definition = DepuisQt(txtDefinition->text());
     switch (PageDuType(type)) {
     case kPageEntete: {
         const DefinitionEntete avant = LireEntete(definition);
-        DefinitionEntete e{DepuisQString(ComboFormeEntete->currentData().toString()),
-                           DepuisQString(txtDebut->text()), DepuisQString(txtFin->text())};
+        DefinitionEntete e{DepuisQt(ComboFormeEntete->currentData().toString()),
+                           DepuisQt(txtDebut->text()), DepuisQt(txtFin->text())};
         if (tableau_.modeAnnees != kPremiereEtDerniere) {
             e.debut = avant.debut;
             e.fin = avant.fin;
@@ -351,7 +349,7 @@ void FrmTexte::Composer() {
         if (QTreeWidgetItem* item = TreeViewSeries->currentItem();
             item && item->data(0, kRoleCle).toString().contains('+')) {
             v.mot = "serie";
-            v.code = DepuisQString(item->data(0, kRoleCle).toString());
+            v.code = DepuisQt(item->data(0, kRoleCle).toString());
             definition = EcrireValeurs(v);
         }
         break;
@@ -360,49 +358,49 @@ void FrmTexte::Composer() {
             if (ComboLigneA->count() == 0) break;
             v.mot = "totalS";
             v.code = FormuleSimple(ComboLigneA->currentData().toInt(),
-                                   DepuisQString(ComboOperateur->currentText()),
+                                   DepuisQt(ComboOperateur->currentText()),
                                    ComboLigneB->currentData().toInt());
         } else {
             v.mot = "totalC";
-            v.code = FormuleStockee(DepuisQString(txtFormule->text()));
+            v.code = FormuleStockee(DepuisQt(txtFormule->text()));
         }
         definition = EcrireValeurs(v);
         break;
     case kPagePredefinies:
         if (QTreeWidgetItem* item = TreeViewPredefinies->currentItem()) {
-            const Texte cle = DepuisQString(item->data(0, kRoleCle).toString());
+            const Texte cle = DepuisQt(item->data(0, kRoleCle).toString());
             if (cle != "Racine" && !FinitPar(cle, "#")) definition = cle;
         }
         break;
     case kPageRepetee:
         v.mot = MotSerieRepetee(type);
-        v.code = DepuisQString(txtCle->text());
+        v.code = DepuisQt(txtCle->text());
         definition = EcrireValeurs(v);
         break;
     case kPageEspace:
         break;
     }
-    txtDefinition->setText(VersQString(definition));
+    txtDefinition->setText(VersQt(definition));
 }
 
 void FrmTexte::accept() {
     const TypeLigne type = Type();
-    const Texte definition = DepuisQString(txtDefinition->text());
+    const Texte definition = DepuisQt(txtDefinition->text());
     const DefinitionValeurs v = LireValeurs(definition);
     if (PageDuType(type) == kPageTotal && v.mot == "totalC" &&
         !VerifierFormule(ctx_, v.code, [this](int n) { return n >= 1 && n < numero_; }))
         return;
     if (PageDuType(type) == kPageSerie && !libelleSerie_.empty() && !txtLibelle.empty() &&
-        RemplacerLibelle(ctx_, DepuisQString(txtLibelle[0]->text()), libelleSerie_))
-        txtLibelle[0]->setText(VersQString(libelleSerie_));
+        RemplacerLibelle(ctx_, DepuisQt(txtLibelle[0]->text()), libelleSerie_))
+        txtLibelle[0]->setText(VersQt(libelleSerie_));
     QDialog::accept();
 }
 
 LigneModele FrmTexte::Ligne() const {
     LigneModele l = ligne_;
     for (std::size_t c = 0; c < txtLibelle.size(); ++c)
-        l.cellules[c].texte = TexteDeLibelle(DepuisQString(txtLibelle[c]->text()));
-    l.definition = DepuisQString(txtDefinition->text());
+        l.cellules[c].texte = TexteDeLibelle(DepuisQt(txtLibelle[c]->text()));
+    l.definition = DepuisQt(txtDefinition->text());
     return l;
 }
 

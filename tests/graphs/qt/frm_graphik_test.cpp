@@ -51,8 +51,8 @@ TEST_F(FrmGraphikTest, LaSaisieVaDansLEnregistrementEtLeGraphiqueSuit) {
     FrmGraphik forme(ctx, "Insertion de graphique");
     QTreeWidgetItem* racine = forme.TreeViewGraph->topLevelItem(0);
     ASSERT_EQ(racine->childCount(), 2);
-    EXPECT_EQ(racine->child(0)->text(0), VersQString("Marge brute"));
-    EXPECT_EQ(forme.txtTitre->text(), VersQString("Marge brute"));
+    EXPECT_EQ(racine->child(0)->text(0), VersQt("Marge brute"));
+    EXPECT_EQ(forme.txtTitre->text(), VersQt("Marge brute"));
     EXPECT_FALSE(forme.Apercu().isNull());
     // A combination chart: each of the three series shows its own kind.
     EXPECT_TRUE(forme.ComboTypeIndiv[2]->isVisibleTo(&forme));
@@ -60,10 +60,10 @@ TEST_F(FrmGraphikTest, LaSaisieVaDansLEnregistrementEtLeGraphiqueSuit) {
 
     forme.txtTitre->clear();
     QTest::keyClicks(forme.txtTitre, "Resultat");
-    forme.txtTitre->setText(VersQString("Résultat"));
+    forme.txtTitre->setText(VersQt("Résultat"));
     emit forme.txtTitre->textEdited(forme.txtTitre->text());
     EXPECT_EQ(Rogner(ctx.etat.graphes.graphes[1].titre), "Résultat");
-    EXPECT_EQ(racine->child(0)->text(0), VersQString("Résultat"));
+    EXPECT_EQ(racine->child(0)->text(0), VersQt("Résultat"));
     const QImage avant = forme.Apercu();
     forme.ComboType->setCurrentIndex(0); // 3D bars
     EXPECT_EQ(ctx.etat.graphes.graphes[1].typeGraph, 1);
@@ -80,7 +80,7 @@ TEST_F(FrmGraphikTest, LaSaisieVaDansLEnregistrementEtLeGraphiqueSuit) {
     // The second graph has no series: an empty chart and the "vide" node.
     forme.TreeViewGraph->setCurrentItem(racine->child(1));
     EXPECT_EQ(forme.TreeViewSeriesD->topLevelItem(0)->child(0)->text(0),
-              VersQString("Aucune série sélectionnée"));
+              VersQt("Aucune série sélectionnée"));
     EXPECT_FALSE(forme.Apercu().isNull());
 
     // Escape leaves and saves, without asking.
@@ -93,10 +93,10 @@ TEST_F(FrmGraphikTest, LaSaisieVaDansLEnregistrementEtLeGraphiqueSuit) {
 TEST_F(FrmGraphikTest, LeDialogueDeSerieEcritSaSerie) {
     const SerieGraph s = test::GrapheComplet().series[1];
     FrmSerieGraph dialogue(utilisateur, s, 2);
-    EXPECT_EQ(dialogue.windowTitle(), VersQString("- Définition de la série n°2 -"));
+    EXPECT_EQ(dialogue.windowTitle(), VersQt("- Définition de la série n°2 -"));
     EXPECT_EQ(dialogue.txtNom->text(), "Charges");
     EXPECT_EQ(dialogue.ComboBrosse->currentText(), "solide");
-    dialogue.txtNom->setText(VersQString("Charges opérationnelles de l'exploitation"));
+    dialogue.txtNom->setText(VersQt("Charges opérationnelles de l'exploitation"));
     dialogue.txtEpaisseurTrait->setText("150");
     dialogue.OptionAxeY[1]->setChecked(true);
     dialogue.ComboBrosse->setCurrentIndex(0);
@@ -115,7 +115,7 @@ TEST_F(FrmGraphikTest, LeGraphiqueSImprimeDansUnPdfAvecLeNomDuDossier) {
     FrmGraphik forme(ctx, "Insertion de graphique");
     const Texte pdf = dossier / "graphique.pdf";
     {
-        QPdfWriter sortie(VersQString(pdf));
+        QPdfWriter sortie(VersQt(pdf));
         PeindrePageGraphique(sortie, forme.Apercu(), "DUPONT");
     }
     const auto octets = LireFichier(pdf);

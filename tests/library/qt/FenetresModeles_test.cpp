@@ -1,7 +1,7 @@
 #include "library/qt/FrmCreerDoc.h"
 #include "library/qt/FrmOuvrDoc.h"
 #include "library/qt/FrmTrfMdl.h"
-#include "library/qt/TexteModeles.h"
+#include "utils/qt/TexteQt.h"
 
 #include "library/DocumentLot.h"
 #include "support/FauxUtilisateur.h"
@@ -136,7 +136,7 @@ TEST_F(Fenetres, TransfertToutOuRien) {
     tout->click();
     EXPECT_EQ(tout->text(), "Rien Trf.");
     EXPECT_EQ(liste->topLevelItem(0)->checkState(0), Qt::Checked);
-    Enfant<QLineEdit>(f, "txtDestination")->setText(QtDe(d / "ailleurs"));
+    Enfant<QLineEdit>(f, "txtDestination")->setText(VersQt(d / "ailleurs"));
     u.reponses = {Reponse::Oui};
     Enfant<QPushButton>(f, "cmdTransferer")->click();
     EXPECT_EQ(d.Lire("ailleurs/lettre.vdm"), d.Lire("Marlo/Verdane/ModlDocs/lettre.vdm"));

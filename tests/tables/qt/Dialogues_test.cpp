@@ -96,8 +96,8 @@ TEST_F(DialoguesTest, LesTotauxSimplesEtLibres) {
 TEST_F(DialoguesTest, LignesPredefiniesEtRefusDUnSautDePage) {
     FrmTexte d(ctx, tableau, 3);
     d.ComboGenre->setCurrentIndex(static_cast<int>(TypeLigne::Predefinies));
-    const auto trouves = d.TreeViewPredefinies->findItems(
-        VersQString("Primes cultures fourragères"), Qt::MatchExactly | Qt::MatchRecursive);
+    const auto trouves = d.TreeViewPredefinies->findItems(VersQt("Primes cultures fourragères"),
+                                                          Qt::MatchExactly | Qt::MatchRecursive);
     ASSERT_EQ(trouves.size(), 1);
     d.TreeViewPredefinies->setCurrentItem(trouves[0]);
     EXPECT_EQ(d.Ligne().definition, "prime:p4ricf");

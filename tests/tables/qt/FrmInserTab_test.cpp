@@ -40,7 +40,7 @@ TEST_F(FrmInserTabTest, UnTableauFaitDansLEditeurSInsereCommeIlEtaitMontre) {
     });
     FrmInserTab forme(ctx);
     EXPECT_EQ(forme.TreeViewTab->topLevelItem(0)->child(0)->text(0),
-              VersQString("Aucun enregistrement"));
+              VersQt("Aucun enregistrement"));
     forme.NouveauTableau();
     forme.txtNom->setText("Marge");
     emit forme.txtNom->editingFinished();
@@ -54,8 +54,8 @@ TEST_F(FrmInserTabTest, UnTableauFaitDansLEditeurSInsereCommeIlEtaitMontre) {
     const auto definir = [&](int n, TypeLigne genre, const char* libelle, const char* def) {
         FrmTexte dialogue(ctx, *e.Tableau(), n);
         dialogue.ComboGenre->setCurrentIndex(static_cast<int>(genre));
-        if (libelle) dialogue.txtLibelle[0]->setText(VersQString(libelle));
-        if (def) dialogue.txtDefinition->setText(VersQString(def));
+        if (libelle) dialogue.txtLibelle[0]->setText(VersQt(libelle));
+        if (def) dialogue.txtDefinition->setText(VersQt(def));
         *e.Tableau()->Ligne(n) = dialogue.Ligne();
     };
     definir(1, TypeLigne::Intitule, "Années; exercices", nullptr);
@@ -102,7 +102,7 @@ TEST_F(FrmInserTabTest, LesOperationsDeLigneSontRefuseesSurUnTableauVide) {
     EXPECT_EQ(FrmAddRmvL::Refus('m', 0), "Aucune ligne à déplacer dans ce tableau !");
     EXPECT_EQ(FrmAddRmvL::Refus('a', 0), "");
     FrmAddRmvL dialogue('m', 4, 2);
-    EXPECT_EQ(dialogue.windowTitle(), VersQString("Déplacement d'une ligne du tableau"));
+    EXPECT_EQ(dialogue.windowTitle(), VersQt("Déplacement d'une ligne du tableau"));
     EXPECT_EQ(dialogue.Ligne(), 2);
     EXPECT_TRUE(dialogue.Apres());
 }
