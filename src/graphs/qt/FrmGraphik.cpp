@@ -175,7 +175,7 @@ FrmGraphik::FrmGraphik(Contexte& ctx, const Texte& titre, int graphe, QWidget* p
     if (graphe > 0) editeur_.Selectionner("graph" + std::to_string(graphe));
     RemplirGraphes();
     MontrerGraphe();
-    resize(1100, 720);
+    resize(1180, 740);
 }
 
 FrmGraphik::~FrmGraphik() {

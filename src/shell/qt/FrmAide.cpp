@@ -60,7 +60,7 @@ FrmAide::FrmAide(bool marlo, QWidget* parent)
     l->addWidget(lblTechnique_, 1);
     l->addWidget(entreesAide_);
     l->addWidget(cmdFermer_, 0, Qt::AlignRight);
-    setStyleSheet(QStringLiteral("QDialog#FrmAide { border: 1px solid #5a7a3a; }"));
+    setStyleSheet(QStringLiteral("QDialog#FrmAide { border: 1px solid #8e9bab; }"));
     connect(cmdFermer_, &QPushButton::clicked, this, &FrmAide::Fermer);
 
     minuterie_.setInterval(kPeriodeDeroulement);

@@ -24,7 +24,7 @@ namespace verdane::qt {
 namespace {
 
 constexpr int kLargeurSansLogoTwips = 13000;
-const QString kFond = QStringLiteral("#2f5a1a");
+const QString kFond = QStringLiteral("#243852");
 
 // A label that says when it is clicked or crossed by the mouse.
 class Etiquette : public QLabel {
@@ -70,15 +70,15 @@ protected:
         if (selectionne && !image.isNull()) {
             p.drawPixmap(r, image);
         } else {
-            p.setPen(QColor(QStringLiteral("#c8d8a8")));
-            p.setBrush(selectionne ? QColor(QStringLiteral("#f4f7ee"))
-                                   : QColor(QStringLiteral("#4d7a30")));
+            p.setPen(QColor(QStringLiteral("#8e9bab")));
+            p.setBrush(selectionne ? QColor(QStringLiteral("#f4f6f9"))
+                                   : QColor(QStringLiteral("#2e4566")));
             p.drawRoundedRect(r.adjusted(0, 0, 0, 6), 6, 6);
         }
         QFont f = font();
         f.setBold(true);
         p.setFont(f);
-        p.setPen(selectionne ? QColor(QStringLiteral("#1f3d0c")) : QColor(Qt::white));
+        p.setPen(selectionne ? QColor(QStringLiteral("#22354f")) : QColor(Qt::white));
         p.drawText(r, Qt::AlignCenter, text());
     }
 };

@@ -53,10 +53,10 @@ public:
     }
     void Surligner(bool oui) {
         surligne = oui;
-        libelle_->setStyleSheet(oui ? QStringLiteral("color: #b05000; text-decoration: underline;")
-                                    : QStringLiteral("color: #1f3d0c;"));
+        libelle_->setStyleSheet(oui ? QStringLiteral("color: #1b4f82; text-decoration: underline;")
+                                    : QStringLiteral("color: #22354f;"));
         if (bulle_)
-            bulle_->setStyleSheet(oui ? QStringLiteral("color: #b05000;")
+            bulle_->setStyleSheet(oui ? QStringLiteral("color: #1b4f82;")
                                       : QStringLiteral("color: #555555;"));
     }
     const EntreeMenu& entree;
@@ -90,7 +90,7 @@ FrmMenu::FrmMenu(Contexte& ctx, GestionBarre& gestion, Menu menu, QWidget* paren
     setProperty("verdaneSansSkin", true);
     setMouseTracking(true);
     setAutoFillBackground(true);
-    setStyleSheet(QStringLiteral("QWidget#%1 { background: #f4f7ee; border: 1px solid #5a7a3a; }")
+    setStyleSheet(QStringLiteral("QWidget#%1 { background: #f4f6f9; border: 1px solid #8e9bab; }")
                       .arg(objectName()));
     auto* l = new QVBoxLayout(this);
     l->setContentsMargins(6, 2, 4, 4);
