@@ -20,9 +20,9 @@
 namespace verdane::qt {
 namespace {
 
-class Fenetres : public ::testing::Test, protected test::InstallationTemporaire {
+class FenetresModeles : public ::testing::Test, protected test::InstallationTemporaire {
 protected:
-    Fenetres() : ctx(u) {
+    FenetresModeles() : ctx(u) {
         Initialiser(ctx, env);
         d.Ecrire("Marlo/Verdane/ModlDocs/lettre.vdm", "{\\rtf1 Lettre à #mrl(nomDossier)#}");
         d.Ecrire("Marlo/Verdane/ModlDocs/PDE/PDE8.vdm", "{\\rtf1 page huit}");
@@ -49,7 +49,7 @@ protected:
     Contexte ctx;
 };
 
-TEST_F(Fenetres, CreerDocCommeVerdaneLot) {
+TEST_F(FenetresModeles, CreerDocCommeVerdaneLot) {
     FrmCreerDoc f(ctx, false);
     Texte cree;
     f.PoserSuite([&](const Texte& r) { cree = r; });
@@ -66,7 +66,7 @@ TEST_F(Fenetres, CreerDocCommeVerdaneLot) {
                                          "lot.rtf"));
 }
 
-TEST_F(Fenetres, SansDossierRienNEstCree) {
+TEST_F(FenetresModeles, SansDossierRienNEstCree) {
     ctx.etat.NomDossier[0].clear();
     FrmCreerDoc f(ctx, false);
     bool suite = false;
@@ -77,7 +77,7 @@ TEST_F(Fenetres, SansDossierRienNEstCree) {
     EXPECT_TRUE(u.ADit("Vous devez d'abord sélectionner un dossier !"));
 }
 
-TEST_F(Fenetres, FormatsSelonLeTraitementDeTexte) {
+TEST_F(FenetresModeles, FormatsSelonLeTraitementDeTexte) {
     ctx.etat.options.CheminEditeur = "/usr/bin/soffice";
     FrmCreerDoc lo(ctx, false);
     const QStringList formats = Textes(*Enfant<QComboBox>(lo, "ComboFormat"));
@@ -89,7 +89,7 @@ TEST_F(Fenetres, FormatsSelonLeTraitementDeTexte) {
               QStringList({"Rich Text Format (.rtf)", "Microsoft Word (.doc)"}));
 }
 
-TEST_F(Fenetres, LaPageDuPDERemplaceLeModeleChoisiALaMain) {
+TEST_F(FenetresModeles, LaPageDuPDERemplaceLeModeleChoisiALaMain) {
     FrmCreerDoc f(ctx, true);
     Texte cree;
     f.PoserSuite([&](const Texte& r) { cree = r; });
@@ -107,7 +107,7 @@ TEST_F(Fenetres, LaPageDuPDERemplaceLeModeleChoisiALaMain) {
               std::string::npos);
 }
 
-TEST_F(Fenetres, EchapAnnuleLesDialogues) {
+TEST_F(FenetresModeles, EchapAnnuleLesDialogues) {
     FrmCreerDoc creer(ctx, false);
     creer.show();
     Echap(creer);
@@ -127,7 +127,7 @@ TEST_F(Fenetres, EchapAnnuleLesDialogues) {
               "Dossier 1 : DUPONT");
 }
 
-TEST_F(Fenetres, TransfertToutOuRien) {
+TEST_F(FenetresModeles, TransfertToutOuRien) {
     d.Ecrire("ailleurs/.garde", "");
     FrmTrfMdl f(ctx, 'C', "MDL", {});
     auto* liste = Enfant<QTreeWidget>(f, "lstFichiers");
