@@ -6,6 +6,7 @@
 #include "graphs/qt/RenduGraphique.h"
 #include "utils/Chaines.h"
 #include "utils/Texte.h"
+#include "utils/qt/Boutons.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -74,14 +75,6 @@ QCheckBox* Case(QWidget* parent, const QString& nom, const QString& texte) {
     auto* c = new QCheckBox(texte, parent);
     c->setObjectName(nom);
     return c;
-}
-
-QPushButton* Bouton(QWidget* parent, const char* nom, const char* texte, const char* aide) {
-    auto* b = new QPushButton(VersQt(texte), parent);
-    b->setObjectName(nom);
-    b->setToolTip(VersQt(aide));
-    b->setAutoDefault(false);
-    return b;
 }
 
 } // namespace

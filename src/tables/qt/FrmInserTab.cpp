@@ -11,6 +11,7 @@
 #include "tables/qt/FrmTailleTab.h"
 #include "tables/qt/FrmTexte.h"
 #include "utils/Chaines.h"
+#include "utils/qt/Boutons.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -36,13 +37,6 @@ namespace {
 constexpr int kRoleCle = Qt::UserRole;
 // Periods of the autosave, in minutes; 5 is proposed.
 constexpr int kPeriodes[] = {1, 2, 3, 4, 5, 15, 30};
-
-QPushButton* Bouton(QWidget* parent, const char* nom, const char* texte) {
-    auto* b = new QPushButton(VersQt(texte), parent);
-    b->setObjectName(nom);
-    b->setAutoDefault(false);
-    return b;
-}
 
 } // namespace
 
