@@ -6,12 +6,9 @@ cd "$(dirname "$0")/.."
 build=${1:-build}
 sortie=${2:-docs/captures}
 mkdir -p "$sortie"
-ecran=:57
-Xvfb "$ecran" -screen 0 1280x1024x24 >/dev/null 2>&1 &
-xvfb=$!
-trap 'kill "$xvfb" 2>/dev/null || true' EXIT
-sleep 1
-export DISPLAY=$ecran MARLO_HOME="$PWD/samples/marlo"
+. scripts/ecran-virtuel.sh
+ecran_virtuel
+export MARLO_HOME="$PWD/samples/marlo"
 "$build/verdane" GRAPH "$MARLO_HOME/Dossiers/DUPONT" &
 programme=$!
 # The editor is up when its window is mapped.

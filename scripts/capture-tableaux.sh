@@ -7,11 +7,8 @@ cd "$(dirname "$0")/.."
 build=${1:-build}
 sortie=$(realpath -m "${2:-docs/captures}")
 mkdir -p "$sortie"
-ecran=:58
-Xvfb "$ecran" -screen 0 1280x1024x24 >/dev/null 2>&1 &
-xvfb=$!
-trap 'kill "$xvfb" 2>/dev/null || true' EXIT
-sleep 1
-DISPLAY=$ecran QT_QPA_PLATFORM=xcb VERDANE_CAPTURES="$sortie" \
+. scripts/ecran-virtuel.sh
+ecran_virtuel
+QT_QPA_PLATFORM=xcb VERDANE_CAPTURES="$sortie" \
     "$build/tests/tables/qt/verdane_tables_qt_tests" --gtest_filter='DialoguesTest.Captures'
 ls "$sortie"/Frm*.png

@@ -4,9 +4,9 @@
 # type, strut, geometry). Usage: scripts/captures.sh [build folder] [output folder]
 set -eu
 racine=$(cd "$(dirname "$0")/.." && pwd)
-build=${1:-$racine/build}
-sortie=${2:-/tmp/verdane-captures}
-ecran=${VERDANE_ECRAN:-:9}
+build=$(realpath -m "${1:-$racine/build}")
+sortie=$(realpath -m "${2:-/tmp/verdane-captures}")
+cd "$racine"
 mkdir -p "$sortie"
 travail=$(mktemp -d)
 pids=""
@@ -14,15 +14,12 @@ fin() {
     for p in $pids; do kill "$p" 2>/dev/null || true; done
     rm -rf "$travail"
 }
-trap fin EXIT
 
 # A copy of the sample installation: the bar writes its options file.
 cp -r "$racine/samples/marlo" "$travail/marlo"
-export MARLO_HOME="$travail/marlo" XDG_RUNTIME_DIR="$travail/run" DISPLAY="$ecran"
-mkdir -m 700 -p "$XDG_RUNTIME_DIR"
-Xvfb "$ecran" -screen 0 1280x1024x24 -nolisten tcp >/dev/null 2>&1 &
-pids="$pids $!"
-sleep 1
+export MARLO_HOME="$travail/marlo"
+. scripts/ecran-virtuel.sh
+ecran_virtuel
 
 barre() { xdotool search --onlyvisible --name '^Verdane$' 2>/dev/null | head -1; }
 attendre_barre() {

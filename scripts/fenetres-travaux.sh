@@ -5,13 +5,11 @@
 #
 #   scripts/fenetres-travaux.sh [build folder] [folder of the screenshots]
 #
-# Needs Xvfb, xdotool and imagemagick (import); uses the display :6 unless DISPLAY_ESSAI says
-# another.
+# Installs and uses Xvfb, xdotool and ImageMagick (scripts/ecran-virtuel.sh).
 set -eu
 cd "$(dirname "$0")/.."
 CONSTRUCTION=${1:-build}
 CAPTURES=${2:-/tmp/verdane-fenetres}
-ECRAN=${DISPLAY_ESSAI:-:6}
 mkdir -p "$CAPTURES"
 # A copy of the sample installation: the documents made here don't go into the samples.
 rm -rf "$CAPTURES/marlo"
@@ -19,11 +17,8 @@ cp -r samples/marlo "$CAPTURES/marlo"
 export MARLO_HOME="$CAPTURES/marlo"
 DOSSIER="$MARLO_HOME/Dossiers/DUPONT"
 
-Xvfb "$ECRAN" -screen 0 1280x1024x24 >/dev/null 2>&1 &
-XVFB=$!
-trap 'kill $XVFB 2>/dev/null || true' EXIT
-sleep 1
-export DISPLAY="$ECRAN"
+. scripts/ecran-virtuel.sh
+ecran_virtuel
 
 echec=0
 # The first window of process $1, once shown (empty after 30 s).
