@@ -8,19 +8,25 @@
 
 namespace verdane {
 
-ArbreCatalogue SeriesProposees(const Texte& repDatacfg) {
-    ArbreCatalogue arbre;
-    arbre.racine.texte = "Séries proposées";
-    std::vector<Texte> fichiers;
+std::vector<Texte> FichiersCatalogues(const Texte& repDatacfg) {
+    std::vector<Texte> noms;
+    if (Rogner(repDatacfg).empty()) return noms;
     std::error_code ec;
     for (std::filesystem::directory_iterator it(CheminSysteme(repDatacfg), ec), fin;
          !ec && it != fin; it.increment(ec)) {
         const Texte nom = CheminTexte(it->path().filename());
-        if (FinitParSansCasse(nom, ".CFG") && it->is_regular_file(ec))
-            fichiers.push_back(repDatacfg + nom);
+        if (FinitParSansCasse(nom, ".CFG") && it->is_regular_file(ec)) noms.push_back(nom);
     }
-    std::sort(fichiers.begin(), fichiers.end());
-    for (const Texte& f : fichiers) ChargerCatalogue(f, arbre);
+    std::sort(noms.begin(), noms.end(),
+              [](const Texte& a, const Texte& b) { return Majuscules(a) < Majuscules(b); });
+    return noms;
+}
+
+ArbreCatalogue SeriesProposees(const Texte& repDatacfg) {
+    ArbreCatalogue arbre;
+    arbre.racine.texte = "Séries proposées";
+    for (const Texte& nom : FichiersCatalogues(repDatacfg))
+        ChargerCatalogue(repDatacfg + nom, arbre);
     return arbre;
 }
 

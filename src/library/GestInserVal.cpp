@@ -1,12 +1,11 @@
 #include "library/GestInserVal.h"
 
+#include "data/SeriesProposees.h"
 #include "domain/Catalogues.h"
 #include "utils/Chaines.h"
 #include "utils/OutilsFichiers.h"
 
 #include <algorithm>
-#include <filesystem>
-#include <system_error>
 
 namespace verdane {
 
@@ -45,21 +44,14 @@ NoeudCatalogue NoeudDeLElement(const ElementCatalogue& e) {
 // The catalogues of the configuration folder, by name; the extra results apart.
 void ChargerCataloguesDossier(const Etat& etat, ArbreCatalogue& arbre) {
     const Texte dossier = etat.chemins.RepDatacfg;
-    if (Rogner(dossier).empty()) return;
     std::vector<Texte> fichiers;
     Texte supplementaire;
-    std::error_code ec;
-    for (std::filesystem::directory_iterator it(CheminSysteme(dossier), ec), fin; !ec && it != fin;
-         it.increment(ec)) {
-        const Texte nom = CheminTexte(it->path().filename());
-        if (!FinitParSansCasse(nom, ".CFG")) continue;
+    for (Texte& nom : FichiersCatalogues(dossier)) {
         if (EgalSansCasse(nom, "RESSUP.CFG"))
-            supplementaire = nom;
+            supplementaire = std::move(nom);
         else
-            fichiers.push_back(nom);
+            fichiers.push_back(std::move(nom));
     }
-    std::sort(fichiers.begin(), fichiers.end(),
-              [](const Texte& a, const Texte& b) { return Majuscules(a) < Majuscules(b); });
     for (const auto& nom : fichiers) ChargerCatalogue(AjouterBarre(dossier) + nom, arbre);
     if (!supplementaire.empty())
         ChargerCatalogueSupplementaire(AjouterBarre(dossier) + supplementaire, arbre,

@@ -10,6 +10,7 @@
 #include "library/qt/ListeQt.h"
 #include "utils/Chaines.h"
 #include "utils/OutilsFichiers.h"
+#include "utils/qt/Boutons.h"
 #include "utils/qt/TexteQt.h"
 
 #include <QComboBox>
@@ -26,13 +27,6 @@
 namespace verdane::qt {
 
 namespace {
-
-QPushButton* Bouton(QWidget* parent, const char* nom, const char* texte) {
-    auto* b = new QPushButton(VersQt(texte), parent);
-    b->setObjectName(nom);
-    b->setAutoDefault(false);
-    return b;
-}
 
 Texte SansExtension(const Texte& nom) {
     const auto point = nom.find_last_of('.');

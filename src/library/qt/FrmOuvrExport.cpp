@@ -5,6 +5,7 @@
 #include "library/qt/FrmTrfMdl.h"
 #include "links/Liens.h"
 #include "utils/OutilsFichiers.h"
+#include "utils/qt/Boutons.h"
 #include "utils/qt/TexteQt.h"
 
 #include <QHBoxLayout>
@@ -35,9 +36,7 @@ FrmOuvrExport::FrmOuvrExport(Contexte& ctx, const Texte& document, QWidget* pare
 
     auto* ligne = new QHBoxLayout;
     const auto bouton = [&](const char* nom, const char* texte, void (FrmOuvrExport::*action)()) {
-        auto* b = new QPushButton(VersQt(texte), this);
-        b->setObjectName(nom);
-        b->setAutoDefault(false);
+        auto* b = Bouton(this, nom, texte);
         connect(b, &QPushButton::clicked, this, action);
         ligne->addWidget(b);
         return b;
