@@ -5,6 +5,7 @@
 #include "engine/CreationDoc.h"
 #include "graphs/GraphDossier.h"
 #include "shell/Chemins.h"
+#include "shell/DemarrageBarre.h"
 #include "shell/Options.h"
 #include "shell/Parametres.h"
 #include "utils/Chaines.h"
@@ -93,6 +94,9 @@ int ExecuterProgramme(Contexte& ctx, const LigneCommande& ligne, const Environne
                                                   : "FrmCreerDoc";
         std::vector<Texte> arguments;
         for (int i = 1; i <= ligne.NbArguments(); ++i) arguments.push_back(ligne.Argument(i));
+        // Before a document is created, the word processor it opens in is chosen.
+        if (forme == "FrmCreerDoc" && ctx.formulaires.Connu(forme))
+            AppliquerChoixEditeur(ctx, env.rechercheEditeurs);
         if (ctx.formulaires.Connu(forme))
             sortie =
                 ctx.formulaires.Ouvrir(ctx, forme, arguments) < 0 ? kSortieEchec : kSortieFaite;

@@ -1,6 +1,7 @@
 #pragma once
 // Start of the program: paths, options, parameters, then the job of the command line.
 
+#include "links/RechercheEditeurs.h"
 #include "shell/Arguments.h"
 #include "shell/etat/Contexte.h"
 
@@ -16,6 +17,9 @@ struct Environnement {
     Texte marloHome;        // MARLO_HOME, the Marlo folder, when set
     // The options are read and never written, a missing file not created.
     bool optionsEnLectureSeule = false;
+    // Where the jobs that open a creation window look for a word processor, for a user who
+    // never chose one.
+    ParametresRecherche rechercheEditeurs = ParametresParDefaut();
 };
 
 // The common part of every start: folders, options, parameters. False when the program must

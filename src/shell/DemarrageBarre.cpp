@@ -8,11 +8,8 @@
 
 namespace verdane {
 
-bool PreparerBarre(Contexte& ctx, const ParametresRecherche& recherche) {
+void AppliquerChoixEditeur(Contexte& ctx, const ParametresRecherche& recherche) {
     Etat& etat = ctx.etat;
-    etat.editeurVisible = true;
-    etat.PasProgression = 100;
-    LireFichierGraph(ctx);
     const Texte choisi = Rogner(etat.options.CheminEditeur);
     if (!choisi.empty() && choisi.front() == '/' && !FichierExiste(choisi)) {
         // A word processor of this system that was removed since it was chosen.
@@ -29,6 +26,14 @@ bool PreparerBarre(Contexte& ctx, const ParametresRecherche& recherche) {
         else if (ctx.formulaires.Connu("FrmChoixEditeur"))
             ctx.formulaires.Ouvrir(ctx, "FrmChoixEditeur", {"demarrage"});
     }
+}
+
+bool PreparerBarre(Contexte& ctx, const ParametresRecherche& recherche) {
+    Etat& etat = ctx.etat;
+    etat.editeurVisible = true;
+    etat.PasProgression = 100;
+    LireFichierGraph(ctx);
+    AppliquerChoixEditeur(ctx, recherche);
     ChargerDossier(ctx);
     etat.ModeleModifie = false;
     return etat.options.SansDemarrage == 0;

@@ -7,11 +7,14 @@
 
 namespace verdane {
 
+// The word-processor choice as the program starts with windows: a chosen word processor of
+// this system that is gone is told and forgotten, a user who never chose one gets this
+// system's office when it is installed (else the editor choice opens, when this build has it).
+void AppliquerChoixEditeur(Contexte& ctx, const ParametresRecherche& recherche);
+
 // Steps of the normal start that need no window: the word processor becomes the user's, the
-// graph library is loaded, a chosen word processor of this system that is gone is told and
-// forgotten, a user who never chose a word processor gets this system's office
-// when it is installed (else the editor choice opens, when this build has it), the current
-// dossier is loaded. Returns true when the news window is to be shown.
+// graph library is loaded, the word-processor choice is applied, the current dossier is
+// loaded. Returns true when the news window is to be shown.
 bool PreparerBarre(Contexte& ctx, const ParametresRecherche& recherche);
 
 // The close button: asks whether to remove the bar. True on yes.

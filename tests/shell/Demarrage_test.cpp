@@ -119,4 +119,19 @@ TEST_F(Installation, UnTravailDeDossierChargeLeDossier) {
     EXPECT_TRUE(absent.etat.NomDossier[0].empty()); // a dossier that isn't there is blanked
 }
 
+TEST_F(Installation, CreerEtCerfaAppliquentLeChoixDuTraitementDeTexteAvantLeurFenetre) {
+    std::vector<Texte> ouvertes;
+    for (const char* nom : {"FrmChoixEditeur", "FrmCreerDoc", "FrmOuvrDoc"})
+        ctx.formulaires.Inscrire(nom, [&ouvertes, nom](Contexte&, const std::vector<Texte>&) {
+            ouvertes.push_back(nom);
+            return 0;
+        });
+    env.rechercheEditeurs = {}; // no office anywhere: the user is asked
+    EXPECT_EQ(Executer("CERFA " + d / "Marlo/Dossiers/DUPONT"), kSortieFaite);
+    EXPECT_EQ(ouvertes, (std::vector<Texte>{"FrmChoixEditeur", "FrmCreerDoc"}));
+    ouvertes.clear();
+    EXPECT_EQ(Executer("OUVRIR " + d / "Marlo/Dossiers/DUPONT" + " Bilan"), kSortieFaite);
+    EXPECT_EQ(ouvertes, (std::vector<Texte>{"FrmOuvrDoc"}));
+}
+
 } // namespace verdane
