@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <tuple>
 
 namespace verdane {
 namespace {
@@ -14,12 +15,11 @@ namespace {
 namespace fs = std::filesystem;
 
 TEST(TailleKo, UnChiffreApresLaVirguleArrondiAuPlusProche) {
-    EXPECT_EQ(TailleKo(0, ","), "0,0 ko");
-    EXPECT_EQ(TailleKo(51, ","), "0,0 ko");
-    EXPECT_EQ(TailleKo(52, ","), "0,1 ko");
-    EXPECT_EQ(TailleKo(256, "."), "0.3 ko"); // 0.25: the half goes up
-    EXPECT_EQ(TailleKo(1224, ","), "1,2 ko");
-    EXPECT_EQ(TailleKo(1048576 * 150, ","), "153600,0 ko");
+    // 0.25: the half goes up.
+    const std::tuple<std::uintmax_t, const char*, const char*> cas[] = {
+        {0, ",", "0,0 ko"},   {51, ",", "0,0 ko"},   {52, ",", "0,1 ko"},
+        {256, ".", "0.3 ko"}, {1224, ",", "1,2 ko"}, {1048576 * 150, ",", "153600,0 ko"}};
+    for (const auto& [octets, virgule, texte] : cas) EXPECT_EQ(TailleKo(octets, virgule), texte);
 }
 
 class Listes : public ::testing::Test {
@@ -107,17 +107,17 @@ TEST_F(Listes, DossiersAvecLeurEnregistrement) {
 }
 
 TEST(FormatsDocument, SuiventLeTraitementDeTexteLie) {
+    const std::pair<const char*, std::vector<Texte>> cas[] = {
+        {"", {"Rich Text Format (.rtf)"}},
+        {"C:\\Office\\WINWORD.EXE", {"Rich Text Format (.rtf)", "Microsoft Word (.doc)"}},
+        {"C:\\Lotus\\wordpro.exe", {"Rich Text Format (.rtf)", "Lotus Word Pro (.lwp)"}}};
     Etat etat;
-    const auto libelles = [&] {
-        std::vector<Texte> l;
-        for (const auto& f : FormatsOfferts(etat)) l.push_back(f.libelle);
-        return l;
-    };
-    EXPECT_EQ(libelles(), std::vector<Texte>{"Rich Text Format (.rtf)"});
-    etat.options.CheminEditeur = "C:\\Office\\WINWORD.EXE";
-    EXPECT_EQ(libelles(), (std::vector<Texte>{"Rich Text Format (.rtf)", "Microsoft Word (.doc)"}));
-    etat.options.CheminEditeur = "C:\\Lotus\\wordpro.exe";
-    EXPECT_EQ(libelles(), (std::vector<Texte>{"Rich Text Format (.rtf)", "Lotus Word Pro (.lwp)"}));
+    for (const auto& [editeur, attendus] : cas) {
+        etat.options.CheminEditeur = editeur;
+        std::vector<Texte> libelles;
+        for (const auto& f : FormatsOfferts(etat)) libelles.push_back(f.libelle);
+        EXPECT_EQ(libelles, attendus) << editeur;
+    }
     etat.options.CheminEditeur = "/usr/bin/soffice";
     const auto lo = FormatsOfferts(etat);
     EXPECT_EQ(lo.size(), 5u);
