@@ -78,21 +78,11 @@ TEST_F(Barre, LesFormesSOuvrentParLeRegistreAvecLeursArguments) {
     EXPECT_NE(u.messages[0].technique.find("FrmDate"), Texte::npos);
 }
 
-TEST_F(Barre, ChaqueMenuALesEntreesDeSaForme) {
-    EXPECT_EQ(EntreesMenu(Menu::Document).size(), 5u);
-    EXPECT_EQ(EntreesMenu(Menu::Insertion).size(), 6u);
-    EXPECT_EQ(EntreesMenu(Menu::Generer).size(), 2u);
-    EXPECT_EQ(EntreesMenu(Menu::Options).size(), 4u);
-    EXPECT_EQ(EntreesMenu(Menu::AideMarlo).size(), EntreesMenu(Menu::Aide).size());
-    EXPECT_EQ(Texte(Entree("lblOpenDoc").bulle), "Ouvrir un modèle ou document existant");
-    EXPECT_EQ(EntreeParControle("lblInconnu"), nullptr);
-    EXPECT_EQ(Texte(LibelleOnglet(5)), "PROPRIETES");
-}
-
 TEST_F(Barre, LesAdressesVontAuBureau) {
     ctx.etat.chemins.RepGuide = "/opt/guide/";
     EXPECT_EQ(ExecuterEntree(ctx, Entree("lblAideGene")).adresse, "/opt/guide/index.htm");
     EXPECT_FALSE(ExecuterEntree(ctx, Entree("lblMajDocRes")).adresse.empty());
+    EXPECT_EQ(EntreeParControle("lblInconnu"), nullptr);
 }
 
 TEST_F(Barre, LesProprietesFontLeTourParLeFichierDesOptions) {
