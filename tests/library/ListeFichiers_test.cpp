@@ -29,6 +29,32 @@ protected:
     Etat etat;
 };
 
+TEST_F(Listes, ListesVidesRepertoireDisparuEtDossiers) {
+    auto l = Lister("MDL");
+    EXPECT_TRUE(l.Vide());
+    EXPECT_EQ(l.ligneVide, "Aucun document dans ce répertoire");
+    EXPECT_TRUE(l.probleme.empty());
+    EXPECT_EQ(Lister("DOS").ligneVide, "Aucun dossier dans ce répertoire");
+    // No library file: an empty list, nothing to tell.
+    EXPECT_TRUE(Lister("TAB").Vide());
+    EXPECT_TRUE(Lister("GPH").probleme.empty());
+
+    l = ListerFichiers(etat, d / "parti", "DOC");
+    EXPECT_TRUE(l.Vide());
+    EXPECT_EQ(l.probleme, "Le répertoire " + d.Chemin() + "parti/ est introuvable ou illisible.");
+    EXPECT_EQ(l.titreProbleme, "Lecteur indisponible.");
+
+    // The folders of Marlo's dossiers, with their record (its name in any case).
+    d.Ecrire("DUPONT/DUPONT", std::string(2110, ' '));
+    d.Ecrire(Cp1252VersUtf8("Élevage/ÉLEVAGE"), std::string(2110, ' '));
+    d.Ecrire("VIDE/autre.don", "x"); // a folder without its record
+    l = Lister("DOS");
+    ASSERT_EQ(l.lignes.size(), 2u);
+    EXPECT_EQ(l.lignes[0].nom, "DUPONT");
+    EXPECT_EQ(l.lignes[0].type, "Dossier Marlo");
+    EXPECT_EQ(l.lignes[1].nom, "Élevage");
+}
+
 TEST_F(Listes, DocumentsEtModelesParType) {
     d.Ecrire(Cp1252VersUtf8("zèbre.RTF"), std::string(2048, 'x'));
     d.Ecrire("Avis.doc", "x");
@@ -63,22 +89,6 @@ TEST_F(Listes, DocumentsEtModelesParType) {
     EXPECT_EQ(l.lignes[0].type, "Modèle Verdane");
 }
 
-TEST_F(Listes, ListeVideEtRepertoireDisparu) {
-    auto l = Lister("MDL");
-    EXPECT_TRUE(l.Vide());
-    EXPECT_EQ(l.ligneVide, "Aucun document dans ce répertoire");
-    EXPECT_TRUE(l.probleme.empty());
-    EXPECT_EQ(Lister("DOS").ligneVide, "Aucun dossier dans ce répertoire");
-    // No library file: an empty list, nothing to tell.
-    EXPECT_TRUE(Lister("TAB").Vide());
-    EXPECT_TRUE(Lister("GPH").probleme.empty());
-
-    l = ListerFichiers(etat, d / "parti", "DOC");
-    EXPECT_TRUE(l.Vide());
-    EXPECT_EQ(l.probleme, "Le répertoire " + d.Chemin() + "parti/ est introuvable ou illisible.");
-    EXPECT_EQ(l.titreProbleme, "Lecteur indisponible.");
-}
-
 TEST_F(Listes, GraphesParNomEtGenre) {
     d.Ecrire("graph.txt", test::EnregistrementGraphe("Produits", 2) +
                               test::EnregistrementGraphe("Parts", 11) +
@@ -93,17 +103,6 @@ TEST_F(Listes, GraphesParNomEtGenre) {
     EXPECT_EQ(l.lignes[2].numero, 3);
     EXPECT_EQ(l.lignes[0].taille, "1,2 ko");
     EXPECT_EQ(l.titreProbleme, "Bibliothèque de graphiques endommagée");
-}
-
-TEST_F(Listes, DossiersAvecLeurEnregistrement) {
-    d.Ecrire("DUPONT/DUPONT", std::string(2110, ' '));
-    d.Ecrire(Cp1252VersUtf8("Élevage/ÉLEVAGE"), std::string(2110, ' ')); // case doesn't matter
-    d.Ecrire("VIDE/autre.don", "x"); // a folder without its record
-    const auto l = Lister("DOS");
-    ASSERT_EQ(l.lignes.size(), 2u);
-    EXPECT_EQ(l.lignes[0].nom, "DUPONT");
-    EXPECT_EQ(l.lignes[0].type, "Dossier Marlo");
-    EXPECT_EQ(l.lignes[1].nom, "Élevage");
 }
 
 TEST(FormatsDocument, SuiventLeTraitementDeTexteLie) {
