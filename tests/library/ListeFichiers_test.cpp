@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <tuple>
 
 namespace verdane {
 namespace {
@@ -14,12 +15,11 @@ namespace {
 namespace fs = std::filesystem;
 
 TEST(TailleKo, UnChiffreApresLaVirguleArrondiAuPlusProche) {
-    EXPECT_EQ(TailleKo(0, ","), "0,0 ko");
-    EXPECT_EQ(TailleKo(51, ","), "0,0 ko");
-    EXPECT_EQ(TailleKo(52, ","), "0,1 ko");
-    EXPECT_EQ(TailleKo(256, "."), "0.3 ko"); // 0.25: the half goes up
-    EXPECT_EQ(TailleKo(1224, ","), "1,2 ko");
-    EXPECT_EQ(TailleKo(1048576 * 150, ","), "153600,0 ko");
+    // 0.25: the half goes up.
+    const std::tuple<std::uintmax_t, const char*, const char*> cas[] = {
+        {0, ",", "0,0 ko"},   {51, ",", "0,0 ko"},   {52, ",", "0,1 ko"},
+        {256, ".", "0.3 ko"}, {1224, ",", "1,2 ko"}, {1048576 * 150, ",", "153600,0 ko"}};
+    for (const auto& [octets, virgule, texte] : cas) EXPECT_EQ(TailleKo(octets, virgule), texte);
 }
 
 class Listes : public ::testing::Test {
@@ -28,6 +28,32 @@ protected:
     test::DossierTemporaire d;
     Etat etat;
 };
+
+TEST_F(Listes, ListesVidesRepertoireDisparuEtDossiers) {
+    auto l = Lister("MDL");
+    EXPECT_TRUE(l.Vide());
+    EXPECT_EQ(l.ligneVide, "Aucun document dans ce répertoire");
+    EXPECT_TRUE(l.probleme.empty());
+    EXPECT_EQ(Lister("DOS").ligneVide, "Aucun dossier dans ce répertoire");
+    // No library file: an empty list, nothing to tell.
+    EXPECT_TRUE(Lister("TAB").Vide());
+    EXPECT_TRUE(Lister("GPH").probleme.empty());
+
+    l = ListerFichiers(etat, d / "parti", "DOC");
+    EXPECT_TRUE(l.Vide());
+    EXPECT_EQ(l.probleme, "Le répertoire " + d.Chemin() + "parti/ est introuvable ou illisible.");
+    EXPECT_EQ(l.titreProbleme, "Lecteur indisponible.");
+
+    // The folders of Marlo's dossiers, with their record (its name in any case).
+    d.Ecrire("DUPONT/DUPONT", std::string(2110, ' '));
+    d.Ecrire(Cp1252VersUtf8("Élevage/ÉLEVAGE"), std::string(2110, ' '));
+    d.Ecrire("VIDE/autre.don", "x"); // a folder without its record
+    l = Lister("DOS");
+    ASSERT_EQ(l.lignes.size(), 2u);
+    EXPECT_EQ(l.lignes[0].nom, "DUPONT");
+    EXPECT_EQ(l.lignes[0].type, "Dossier Marlo");
+    EXPECT_EQ(l.lignes[1].nom, "Élevage");
+}
 
 TEST_F(Listes, DocumentsEtModelesParType) {
     d.Ecrire(Cp1252VersUtf8("zèbre.RTF"), std::string(2048, 'x'));
@@ -63,22 +89,6 @@ TEST_F(Listes, DocumentsEtModelesParType) {
     EXPECT_EQ(l.lignes[0].type, "Modèle Verdane");
 }
 
-TEST_F(Listes, ListeVideEtRepertoireDisparu) {
-    auto l = Lister("MDL");
-    EXPECT_TRUE(l.Vide());
-    EXPECT_EQ(l.ligneVide, "Aucun document dans ce répertoire");
-    EXPECT_TRUE(l.probleme.empty());
-    EXPECT_EQ(Lister("DOS").ligneVide, "Aucun dossier dans ce répertoire");
-    // No library file: an empty list, nothing to tell.
-    EXPECT_TRUE(Lister("TAB").Vide());
-    EXPECT_TRUE(Lister("GPH").probleme.empty());
-
-    l = ListerFichiers(etat, d / "parti", "DOC");
-    EXPECT_TRUE(l.Vide());
-    EXPECT_EQ(l.probleme, "Le répertoire " + d.Chemin() + "parti/ est introuvable ou illisible.");
-    EXPECT_EQ(l.titreProbleme, "Lecteur indisponible.");
-}
-
 TEST_F(Listes, GraphesParNomEtGenre) {
     d.Ecrire("graph.txt", test::EnregistrementGraphe("Produits", 2) +
                               test::EnregistrementGraphe("Parts", 11) +
@@ -95,29 +105,18 @@ TEST_F(Listes, GraphesParNomEtGenre) {
     EXPECT_EQ(l.titreProbleme, "Bibliothèque de graphiques endommagée");
 }
 
-TEST_F(Listes, DossiersAvecLeurEnregistrement) {
-    d.Ecrire("DUPONT/DUPONT", std::string(2110, ' '));
-    d.Ecrire(Cp1252VersUtf8("Élevage/ÉLEVAGE"), std::string(2110, ' ')); // case doesn't matter
-    d.Ecrire("VIDE/autre.don", "x"); // a folder without its record
-    const auto l = Lister("DOS");
-    ASSERT_EQ(l.lignes.size(), 2u);
-    EXPECT_EQ(l.lignes[0].nom, "DUPONT");
-    EXPECT_EQ(l.lignes[0].type, "Dossier Marlo");
-    EXPECT_EQ(l.lignes[1].nom, "Élevage");
-}
-
 TEST(FormatsDocument, SuiventLeTraitementDeTexteLie) {
+    const std::pair<const char*, std::vector<Texte>> cas[] = {
+        {"", {"Rich Text Format (.rtf)"}},
+        {"C:\\Office\\WINWORD.EXE", {"Rich Text Format (.rtf)", "Microsoft Word (.doc)"}},
+        {"C:\\Lotus\\wordpro.exe", {"Rich Text Format (.rtf)", "Lotus Word Pro (.lwp)"}}};
     Etat etat;
-    const auto libelles = [&] {
-        std::vector<Texte> l;
-        for (const auto& f : FormatsOfferts(etat)) l.push_back(f.libelle);
-        return l;
-    };
-    EXPECT_EQ(libelles(), std::vector<Texte>{"Rich Text Format (.rtf)"});
-    etat.options.CheminEditeur = "C:\\Office\\WINWORD.EXE";
-    EXPECT_EQ(libelles(), (std::vector<Texte>{"Rich Text Format (.rtf)", "Microsoft Word (.doc)"}));
-    etat.options.CheminEditeur = "C:\\Lotus\\wordpro.exe";
-    EXPECT_EQ(libelles(), (std::vector<Texte>{"Rich Text Format (.rtf)", "Lotus Word Pro (.lwp)"}));
+    for (const auto& [editeur, attendus] : cas) {
+        etat.options.CheminEditeur = editeur;
+        std::vector<Texte> libelles;
+        for (const auto& f : FormatsOfferts(etat)) libelles.push_back(f.libelle);
+        EXPECT_EQ(libelles, attendus) << editeur;
+    }
     etat.options.CheminEditeur = "/usr/bin/soffice";
     const auto lo = FormatsOfferts(etat);
     EXPECT_EQ(lo.size(), 5u);

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdio>
+#include <tuple>
 
 namespace verdane {
 namespace {
@@ -45,19 +46,17 @@ TEST(ConsoleUtilisateur, SansTerminalLaQuestionPrendSaReponseParDefautEtLeDit) {
 }
 
 TEST(ConsoleUtilisateur, AuTerminalLaReponseEstLue) {
-    Console oui("o\n", true);
-    EXPECT_EQ(oui.port->Question("?", "", Boutons::OuiNon, Reponse::Non, Icone::Question),
-              Reponse::Oui);
-    Console relance("peut-etre\nnon\n", true); // asked again until it is an answer
-    EXPECT_EQ(relance.port->Question("?", "", Boutons::OuiNon, Reponse::Oui, Icone::Question),
-              Reponse::Non);
-    Console fin("", true); // end of input: the default
-    EXPECT_EQ(
-        fin.port->Question("?", "", Boutons::OuiNonAnnuler, Reponse::Annuler, Icone::Question),
-        Reponse::Annuler);
-    Console vide("\n", true);
-    EXPECT_EQ(vide.port->Question("?", "", Boutons::OkAnnuler, Reponse::Ok, Icone::Question),
-              Reponse::Ok);
+    // Asked again until it is an answer; at the end of input, or on an empty line, the default.
+    const std::tuple<const char*, Boutons, Reponse, Reponse> cas[] = {
+        {"o\n", Boutons::OuiNon, Reponse::Non, Reponse::Oui},
+        {"peut-etre\nnon\n", Boutons::OuiNon, Reponse::Oui, Reponse::Non},
+        {"", Boutons::OuiNonAnnuler, Reponse::Annuler, Reponse::Annuler},
+        {"\n", Boutons::OkAnnuler, Reponse::Ok, Reponse::Ok}};
+    for (const auto& [saisie, boutons, parDefaut, attendue] : cas) {
+        Console c(saisie, true);
+        EXPECT_EQ(c.port->Question("?", "", boutons, parDefaut, Icone::Question), attendue)
+            << saisie;
+    }
 }
 
 TEST(ConsoleUtilisateur, UneReponseImposeeValaitPourToutes) {

@@ -40,6 +40,19 @@ TEST_F(Installation, LeTravailIniCreeLeResultat) {
     relu.chemins.RepVerdane = d.Chemin() + "Marlo/Verdane/";
     ChargerOptions(relu);
     EXPECT_TRUE(relu.NomDossier[0].empty());
+
+    // Without leave to replace: asked, and by default left as it was.
+    d.Ecrire("a b/r.rtf", "ancien");
+    EXPECT_EQ(Executer("INI \"" + d / "a b/m.vdm" + "\" \"" + d / "a b/r.rtf" + "\""),
+              kSortieFaite);
+    EXPECT_EQ(d.Lire("a b/r.rtf"), "ancien");
+    ASSERT_EQ(u.questions.size(), 1u);
+    // A result whose format can't be made without a word processor: 1, and the RTF kept.
+    EXPECT_EQ(
+        Executer("INI \"" + d / "a b/m.vdm" + "\" \"" + d / "a b/r.odt" + "\" \"\" remplacer"),
+        kSortieEchec);
+    EXPECT_TRUE(d.Lire("a b/r.rtf").starts_with("{\\rtf1 Bonjour"));
+    EXPECT_FALSE(std::filesystem::exists(d.Systeme() / "a b/r.odt"));
 }
 
 TEST_F(Installation, LesOptionsAbsentesSontCreeesVidesPuisEcritesEnFinDeTravail) {
@@ -69,22 +82,6 @@ TEST_F(Installation, LesOptionsAbsentesSontCreeesVidesPuisEcritesEnFinDeTravail)
     ExecuterProgramme(c, LigneCommande("FAIRE"), env);
     EXPECT_EQ(c.etat.options.CheminEditeur, "/usr/bin/soffice") << "read, then written back";
     EXPECT_EQ(d.Lire("Marlo/Verdane/Editeur.svg").substr(2, 16), "/usr/bin/soffice");
-}
-
-TEST_F(Installation, LeTravailIniSansConversionPossibleDonne1) {
-    EXPECT_EQ(
-        Executer("INI \"" + d / "a b/m.vdm" + "\" \"" + d / "a b/r.odt" + "\" \"\" remplacer"),
-        kSortieEchec);
-    EXPECT_TRUE(d.Lire("a b/r.rtf").starts_with("{\\rtf1 Bonjour"));
-    EXPECT_FALSE(std::filesystem::exists(d.Systeme() / "a b/r.odt"));
-}
-
-TEST_F(Installation, LeTravailIniNeRemplacePasSansLeDire) {
-    d.Ecrire("a b/r.rtf", "ancien");
-    EXPECT_EQ(Executer("INI \"" + d / "a b/m.vdm" + "\" \"" + d / "a b/r.rtf" + "\""),
-              kSortieFaite);
-    EXPECT_EQ(d.Lire("a b/r.rtf"), "ancien");
-    ASSERT_EQ(u.questions.size(), 1u);
 }
 
 TEST_F(Installation, CeQuiEmpecheUnTravail) {

@@ -1,8 +1,14 @@
+// verdane-lot: its options, its statuses, its report; and over a damaged installation (folders
+// where files are expected, a result that can't be one) each run ends with its status and a
+// message, never with an abort.
+#include "graphs/FichierGraph.h"
 #include "shell/Lot.h"
 #include "support/FauxUtilisateur.h"
 #include "support/InstallationTemporaire.h"
 
 #include <gtest/gtest.h>
+
+#include <filesystem>
 
 namespace verdane {
 namespace {
@@ -16,12 +22,15 @@ protected:
     Lot() : enregistre(u), ctx(enregistre) {}
 
     BilanLot Executer(OptionsLot o) { return ExecuterLot(ctx, o, env); }
-    OptionsLot Options(const Texte& resultat) {
+    OptionsLot Options(const Texte& resultat, const Texte& modele = "") {
         OptionsLot o;
         o.dossier = Dossier("DUPONT");
-        o.modele = d / "a b/m.vdm";
+        o.modele = modele.empty() ? d / "a b/m.vdm" : modele;
         o.resultat = resultat;
         return o;
+    }
+    void Repertoire(const std::string& nom) {
+        std::filesystem::create_directories(d.Systeme() / nom);
     }
 
     test::FauxUtilisateur u;
@@ -53,13 +62,14 @@ TEST(OptionsLot, LectureEtErreursDUsage) {
     EXPECT_FALSE(Lire(dix).options);
 }
 
-TEST_F(Lot, CreeLeDocumentDuDossierNomme) {
+TEST_F(Lot, CreeLeDocumentDuDossierNommeSansEcrireLesOptions) {
     const auto bilan = Executer(Options(d / "r.rtf"));
     EXPECT_EQ(bilan.statut, kSortieFaite);
     EXPECT_EQ(bilan.codesTrouves, 1);
     EXPECT_EQ(bilan.codesTraites, 1);
     EXPECT_EQ(ctx.etat.NomDossier[0], "DUPONT");
     EXPECT_TRUE(d.Lire("r.rtf").starts_with("{\\rtf1 Bonjour "));
+    EXPECT_FALSE(std::filesystem::exists(d.Systeme() / "Marlo/Verdane"));
 }
 
 TEST_F(Lot, LesDonneesManquantesSontDesErreursDUsage) {
@@ -100,10 +110,6 @@ TEST_F(Lot, UnResultatExistantNEstRemplaceQueSurDemande) {
     EXPECT_NE(d.Lire("r.rtf"), "ancien");
 }
 
-TEST_F(Lot, UnResultatImpossibleAEcrireDonne1) {
-    EXPECT_EQ(Executer(Options(d / "nulle/part/r.rtf")).statut, kSortieEchec);
-}
-
 TEST_F(Lot, UneConversionManqueeDonne1EtGardeLeRtf) {
     // No word processor in this run: a ".doc" can't be made.
     const auto bilan = Executer(Options(d / "r.doc"));
@@ -117,13 +123,6 @@ TEST_F(Lot, UneConversionManqueeDonne1EtGardeLeRtf) {
               std::string::npos)
         << json;
     EXPECT_NE(json.find("\"copieRtf\":\"" + Cp1252VersUtf8(d / "r.rtf") + "\""), std::string::npos);
-}
-
-TEST_F(Lot, LesOptionsNeSontNiCreeesNiEcrites) {
-    const auto options = d.Systeme() / "Marlo/Verdane";
-    ASSERT_FALSE(std::filesystem::exists(options));
-    EXPECT_EQ(Executer(Options(d / "r.rtf")).statut, kSortieFaite);
-    EXPECT_FALSE(std::filesystem::exists(options));
 }
 
 TEST_F(Lot, LesDossiersComparesPrennentLesPlaces1Et2) {
@@ -152,6 +151,33 @@ TEST_F(Lot, LeRapportDitTout) {
     EXPECT_NE(json.find("\"questions\":[{\"rang\":2,\"titre\":\"Titre\",\"texte\":\"Vraiment "
                         "?\",\"reponse\":\"non\"}]"),
               std::string::npos);
+}
+
+TEST_F(Lot, DesRepertoiresALaPlaceDesFichiers) {
+    Repertoire("Marlo/Verdane/Editeur.svg");
+    Repertoire("Marlo/ModelGraph/graph.txt");
+    EXPECT_EQ(Executer(Options(d / "r.rtf")).statut, kSortieFaite);
+    EXPECT_TRUE(d.Lire("r.rtf").starts_with("{\\rtf1 Bonjour "));
+    // The graph library read where a folder stands: said, and nothing loaded.
+    LireFichierGraph(ctx);
+    EXPECT_EQ(ctx.etat.graphes.nbGraphes, 0);
+    EXPECT_TRUE(u.ADit("n'a pas pu être lu"));
+
+    // A model that is a folder.
+    Repertoire("m.vdm");
+    EXPECT_EQ(Executer(Options(d / "r2.rtf", d / "m.vdm")).statut, kSortieUsage);
+    EXPECT_TRUE(u.ADit("Modèle de document introuvable"));
+    EXPECT_FALSE(std::filesystem::exists(d.Systeme() / "r2.rtf"));
+}
+
+TEST_F(Lot, UnResultatImpossibleAEcrireDonne1) {
+    EXPECT_EQ(Executer(Options(d / "nulle/part/r.rtf")).statut, kSortieEchec);
+    Repertoire("r.rtf");
+    ctx.etat.NbCodes = 0;
+    EXPECT_EQ(Executer(Options(d / "r.rtf")).statut, kSortieEchec);
+    EXPECT_TRUE(u.ADit("Le document résultat est un répertoire"));
+    EXPECT_EQ(ctx.etat.NbCodes, 0); // said before the model was read
+    EXPECT_EQ(Executer(Options(d.Chemin())).statut, kSortieEchec);
 }
 
 } // namespace verdane

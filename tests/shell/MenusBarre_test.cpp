@@ -23,29 +23,25 @@ struct Barre : ::testing::Test {
     Contexte ctx{u};
 };
 
-TEST_F(Barre, SansEditeurLesEntreesDuTraitementDeTexteLeDisentEtNeFontRien) {
+TEST_F(Barre, LesEntreesDuTraitementDeTexteVontAuLienChoisiSinonLeDisent) {
     essai::PiloteEnregistreur pilote;
     ctx.pilotes[3] = &pilote;
-    for (const char* c :
-         {"lblNewDoc", "lblSvgDoc", "lblSvgDocSous", "lblCloseDoc", "lblRecupMdl1"}) {
-        u.messages.clear();
-        ExecuterEntree(ctx, Entree(c));
-        ASSERT_EQ(u.messages.size(), 1u) << c;
-        EXPECT_EQ(u.messages[0].texte,
-                  "Aucun traitement de texte n'est actuellement lié à Verdane !");
-        EXPECT_EQ(u.messages[0].titre, "Erreur détectée :  cliquez Fermer pour continuer");
+    // No choice stored, or another program than a word processor.
+    for (const char* editeur : {"", "/usr/bin/gedit"}) {
+        ctx.etat.options.CheminEditeur = editeur;
+        for (const char* c :
+             {"lblNewDoc", "lblSvgDoc", "lblSvgDocSous", "lblCloseDoc", "lblRecupMdl1"}) {
+            u.messages.clear();
+            ExecuterEntree(ctx, Entree(c));
+            ASSERT_EQ(u.messages.size(), 1u) << c;
+            EXPECT_EQ(u.messages[0].texte,
+                      "Aucun traitement de texte n'est actuellement lié à Verdane !");
+            EXPECT_EQ(u.messages[0].titre, "Erreur détectée :  cliquez Fermer pour continuer");
+        }
     }
     EXPECT_TRUE(pilote.journal.empty());
-    // Another program as the stored choice is not a word processor either.
-    ctx.etat.options.CheminEditeur = "/usr/bin/gedit";
-    u.messages.clear();
-    ExecuterEntree(ctx, Entree("lblCloseDoc"));
-    EXPECT_EQ(u.messages.size(), 1u);
-}
 
-TEST_F(Barre, LesEntreesDuTraitementDeTexteVontAuLienChoisi) {
-    essai::PiloteEnregistreur pilote;
-    ctx.pilotes[3] = &pilote;
+    u.messages.clear();
     ctx.etat.options.CheminEditeur = "/usr/lib/libreoffice/program/soffice";
     ExecuterEntree(ctx, Entree("lblCloseDoc"));
     EXPECT_EQ(pilote.journal, (std::vector<std::string>{"fermer 0"}));
@@ -78,21 +74,11 @@ TEST_F(Barre, LesFormesSOuvrentParLeRegistreAvecLeursArguments) {
     EXPECT_NE(u.messages[0].technique.find("FrmDate"), Texte::npos);
 }
 
-TEST_F(Barre, ChaqueMenuALesEntreesDeSaForme) {
-    EXPECT_EQ(EntreesMenu(Menu::Document).size(), 5u);
-    EXPECT_EQ(EntreesMenu(Menu::Insertion).size(), 6u);
-    EXPECT_EQ(EntreesMenu(Menu::Generer).size(), 2u);
-    EXPECT_EQ(EntreesMenu(Menu::Options).size(), 4u);
-    EXPECT_EQ(EntreesMenu(Menu::AideMarlo).size(), EntreesMenu(Menu::Aide).size());
-    EXPECT_EQ(Texte(Entree("lblOpenDoc").bulle), "Ouvrir un modèle ou document existant");
-    EXPECT_EQ(EntreeParControle("lblInconnu"), nullptr);
-    EXPECT_EQ(Texte(LibelleOnglet(5)), "PROPRIETES");
-}
-
 TEST_F(Barre, LesAdressesVontAuBureau) {
     ctx.etat.chemins.RepGuide = "/opt/guide/";
     EXPECT_EQ(ExecuterEntree(ctx, Entree("lblAideGene")).adresse, "/opt/guide/index.htm");
     EXPECT_FALSE(ExecuterEntree(ctx, Entree("lblMajDocRes")).adresse.empty());
+    EXPECT_EQ(EntreeParControle("lblInconnu"), nullptr);
 }
 
 TEST_F(Barre, LesProprietesFontLeTourParLeFichierDesOptions) {

@@ -62,14 +62,10 @@ TEST(Options, LesEnregistrementsSontALeurPlace) {
     EXPECT_EQ(o[28 * 128], 7);                                     // record 29
     EXPECT_EQ(o[43 * 128], 12);                                    // record 44
     EXPECT_EQ(o.substr(44 * 128, 3), std::string("\x01\x00l", 3)); // record 45
-}
-
-TEST(Options, LeMasquageDesAnnotationsEstToujoursRemisA1) {
-    Etat e;
+    // The annotations' record is read as 1 whatever it holds.
     e.options.SansAnnotation = 0;
-    std::string o = OctetsOptions(e);
     Etat relu;
-    LireOctetsOptions(relu, o);
+    LireOctetsOptions(relu, OctetsOptions(e));
     EXPECT_EQ(relu.options.SansAnnotation, 1);
 }
 
@@ -104,13 +100,11 @@ TEST(Options, FichierAbsentTropCourtTronqueOuAberrant) {
     LireOctetsOptions(fou, aberrant);
     EXPECT_EQ(fou.options.CheminEditeur.size(), 126u);
     EXPECT_EQ(OctetsOptions(fou).size(), 45u * 128u);
-}
 
-TEST(Options, UnTexteTropLongEstCoupeALaLongueurDUnEnregistrement) {
-    Etat e;
-    e.options.RepDocuments = std::string(300, 'x');
-    Etat relu;
-    LireOctetsOptions(relu, OctetsOptions(e));
+    // A text too long for its record is cut to the record's length.
+    Etat long_;
+    long_.options.RepDocuments = std::string(300, 'x');
+    LireOctetsOptions(relu, OctetsOptions(long_));
     EXPECT_EQ(relu.options.RepDocuments, std::string(126, 'x'));
 }
 

@@ -29,13 +29,12 @@ TEST(Parametres, LesOrganismesSeRelisent) {
     EXPECT_EQ(e.Organismes[0].nom.size(), 80u); // fixed strings are kept as read
     EXPECT_EQ(e.Organismes[2].sigle.substr(0, 2), "O2");
     EXPECT_EQ(e.Organismes[1].logo.substr(0, 13), "C:\\Logos\\é1.b");
-}
 
-TEST(Parametres, PlusDOrganismesQueDePlacesEtNombreNegatif) {
-    Etat e;
-    ASSERT_FALSE(LireOctetsParametres(e, EcrireOctetsParametres(Organismes(25))).has_value());
-    EXPECT_EQ(e.NbOrganismes, 19);
-    EXPECT_EQ(e.Organismes[19].sigle.substr(0, 3), "O19");
+    // More bodies than places: the first twenty; a negative count: none.
+    Etat plein;
+    ASSERT_FALSE(LireOctetsParametres(plein, EcrireOctetsParametres(Organismes(25))).has_value());
+    EXPECT_EQ(plein.NbOrganismes, 19);
+    EXPECT_EQ(plein.Organismes[19].sigle.substr(0, 3), "O19");
 
     std::string negatif = EcrireOctetsParametres(Organismes(1));
     negatif[kTailleEnteteParametres] = '\xFF';

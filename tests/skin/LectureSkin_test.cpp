@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace verdane::skin {
 namespace {
 
@@ -41,28 +43,26 @@ TEST(LectureSkin, ClesEnMajusculesBlancsEtCommentaires) {
 }
 
 TEST(LectureSkin, Transparence) {
-    auto alpha = LireDescriptionSkin("transparence = false,255;true,120\n", "").skin;
-    EXPECT_TRUE(alpha.transparence);
-    EXPECT_EQ(alpha.alpha, 120);
-    EXPECT_EQ(alpha.cleCouleur, kSansCleCouleur);
-    EXPECT_EQ(alpha.DrapeauTransparence(), 2);
-
-    auto cle = LireDescriptionSkin("transparence=true,16711935;non,10\n", "").skin;
-    EXPECT_TRUE(cle.transparence);
-    EXPECT_EQ(cle.cleCouleur, 16711935);
-    EXPECT_EQ(cle.alpha, 255);
-    EXPECT_EQ(cle.DrapeauTransparence(), 3);
-
-    auto rien = LireDescriptionSkin("transparence=false,1;false,2\n", "").skin;
-    EXPECT_FALSE(rien.transparence);
-    EXPECT_EQ(rien.alpha, 255);
-
-    auto trop = LireDescriptionSkin("transparence=false,1;true,300\n", "");
+    // Text, then whether the window is see-through, its alpha, its key colour and the flag.
+    const std::tuple<const char*, bool, int, std::int32_t, int> cas[] = {
+        {"false,255;true,120", true, 120, kSansCleCouleur, 2},
+        {"true,16711935;non,10", true, 255, 16711935, 3},
+        {"false,1;false,2", false, 255, kSansCleCouleur, 0}};
+    for (const auto& [texte, transparence, alpha, cle, drapeau] : cas) {
+        const auto s = LireDescriptionSkin("transparence = " + Texte(texte) + "\n", "").skin;
+        EXPECT_EQ(s.transparence, transparence) << texte;
+        EXPECT_EQ(s.alpha, alpha) << texte;
+        EXPECT_EQ(s.cleCouleur, cle) << texte;
+        if (transparence) {
+            EXPECT_EQ(s.DrapeauTransparence(), drapeau) << texte;
+        }
+    }
+    const auto trop = LireDescriptionSkin("transparence=false,1;true,300\n", "");
     EXPECT_EQ(trop.skin.alpha, 255);
     EXPECT_TRUE(Avertit(trop, "alpha"));
 }
 
-TEST(LectureSkin, BoutonsTitreLibelleEtBoutonsDesDialogues) {
+TEST(LectureSkin, BoutonsTitreEtLibelle) {
     const auto s = LireDescriptionSkin("posbend = me.width-20,2,16,16, 0,0,16,16\n"
                                        "posbend1 = me.width-20,2,16,16, 16,0,16,16\n"
                                        "posbmenu = 2,2,16,16, 32,0,16,16\n"
@@ -70,11 +70,6 @@ TEST(LectureSkin, BoutonsTitreLibelleEtBoutonsDesDialogues) {
                                        "lbltitre.forecolor = 255\n"
                                        "lbltitre.pos = 20,0,me.width-60,20\n"
                                        "lbltitre.font = Segoe_UI,9.5,true,false,true\n"
-                                       "button.mup = 0,20,80,24\n"
-                                       "button.mdown = 80,20,80,24\n"
-                                       "button.max = 300,40\n"
-                                       "button.lblcolor = 0,16777215\n"
-                                       "button.lblgras = true\n"
                                        "menu.bend = 0,0,16,16, 0,40,16,16\n"
                                        "menu.bend = 0,0,16,16, 16,40,16,16\n"
                                        "menucolor = 65535\n"
@@ -94,10 +89,6 @@ TEST(LectureSkin, BoutonsTitreLibelleEtBoutonsDesDialogues) {
     EXPECT_TRUE(s.titre.police.gras);
     EXPECT_FALSE(s.titre.police.italique);
     EXPECT_TRUE(s.titre.police.souligne);
-    EXPECT_EQ(s.bouton.imageHaut, "0,20,80,24");
-    EXPECT_EQ(s.bouton.largeurMax, "300");
-    EXPECT_EQ(s.bouton.hauteurMax, "40");
-    EXPECT_EQ(s.bouton.couleurBas, "16777215");
     EXPECT_EQ(s.menu[kBoutonFermer].size(), 2u);
     EXPECT_EQ(s.couleurMenu, 65535);
     EXPECT_EQ(s.menuHaut, 20);

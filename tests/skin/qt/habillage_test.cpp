@@ -37,9 +37,9 @@ protected:
         qApp->installEventFilter(habillage.get());
     }
     // A dialog as the other subsystems make them: a layout, a label-less button.
-    std::unique_ptr<QDialog> Dialogue(const char* titre = "Ouvrir un document") {
+    std::unique_ptr<QDialog> Dialogue() {
         auto d = std::make_unique<QDialog>();
-        d->setWindowTitle(QString::fromStdString(Cp1252VersUtf8(titre)));
+        d->setWindowTitle("Ouvrir un document");
         auto* couche = new QVBoxLayout(d.get());
         bouton = new QPushButton("Valider", d.get());
         couche->addWidget(bouton);
@@ -68,10 +68,11 @@ protected:
     QPushButton* bouton = nullptr;
 };
 
-TEST_F(Habillage, UneFenetreEstHabilleeASaPremiereApparition) {
+TEST_F(Habillage, UneFenetreHabilleeSeConduitParSonCadre) {
     auto d = Dialogue();
+    d->resize(400, 200);
     d->show();
-    const auto* cadre = CadreFenetre::De(d.get());
+    auto* cadre = CadreFenetre::De(d.get());
     ASSERT_TRUE(cadre);
     EXPECT_TRUE(utilisateur.messages.empty()) << utilisateur.ToutCeQuiAEteDit();
     const auto& skin = cadre->Cadre().Skin();
@@ -79,19 +80,73 @@ TEST_F(Habillage, UneFenetreEstHabilleeASaPremiereApparition) {
     EXPECT_EQ(d->contentsMargins().top(), skin.hauteurTitre);
     EXPECT_GE(d->minimumWidth(), cadre->Cadre().LargeurMin());
     EXPECT_GE(d->minimumHeight(), cadre->Cadre().HauteurMin());
-    // The content stands under the title.
+    // The content stands under the title; its buttons, even one added later, are dressed.
     EXPECT_GE(bouton->geometry().top(), skin.hauteurTitre);
     EXPECT_TRUE(qobject_cast<StyleBoutonSkin*>(bouton->style()));
-    // A skinned button of the window takes the skin's data.
     auto* com = new comSkin(d.get());
     d->layout()->addWidget(com);
     com->show();
     EXPECT_TRUE(com->Etat().SourceHaut());
-    // A button added later is dressed when it is polished.
     auto* second = new QPushButton("Annuler", d.get());
     d->layout()->addWidget(second);
     second->show();
     EXPECT_TRUE(qobject_cast<StyleBoutonSkin*>(second->style()));
+
+    // The title moves the window, with the skin's cursor; a press in the content doesn't.
+    d->move(100, 100);
+    const QPoint depart = d->pos();
+    Souris(d.get(), QEvent::MouseButtonPress, QPoint(200, 10), Qt::LeftButton);
+    EXPECT_EQ(d->cursor().shape(), Qt::BitmapCursor); // the skin's deplace.ico
+    Souris(d.get(), QEvent::MouseMove, QPoint(230, 30), Qt::LeftButton);
+    EXPECT_EQ(d->pos(), depart + QPoint(30, 20));
+    Souris(d.get(), QEvent::MouseButtonRelease, QPoint(230, 30), Qt::NoButton);
+    EXPECT_NE(d->cursor().shape(), Qt::BitmapCursor);
+    Souris(d.get(), QEvent::MouseButtonPress, QPoint(200, 150), Qt::LeftButton);
+    Souris(d.get(), QEvent::MouseMove, QPoint(220, 170), Qt::LeftButton);
+    Souris(d.get(), QEvent::MouseButtonRelease, QPoint(220, 170), Qt::NoButton);
+    EXPECT_EQ(d->pos(), depart + QPoint(30, 20));
+
+    // The close button is drawn pressed, then closes.
+    const QPoint fermer = Centre(*cadre, d.get(), skin::kBoutonFermer);
+    const QImage avant = d->grab().toImage();
+    Souris(d.get(), QEvent::MouseButtonPress, fermer, Qt::LeftButton);
+    EXPECT_TRUE(cadre->Cadre().Enfonce(skin::kBoutonFermer));
+    const QImage enfonce = d->grab().toImage();
+    const QPoint aCote = (fermer + QPoint(-10, 0)) * enfonce.devicePixelRatio();
+    EXPECT_NE(enfonce.pixel(aCote), avant.pixel(aCote));
+    Souris(d.get(), QEvent::MouseButtonRelease, fermer, Qt::NoButton);
+    EXPECT_FALSE(d->isVisible());
+
+    // Shown again, it isn't ended any more; the enlarge button enlarges, then restores.
+    d->show();
+    const auto clic = [&](int numero) {
+        const QPoint p = Centre(*cadre, d.get(), numero);
+        Souris(d.get(), QEvent::MouseButtonPress, p, Qt::LeftButton);
+        Souris(d.get(), QEvent::MouseButtonRelease, p, Qt::NoButton);
+    };
+    clic(skin::kBoutonAgrandir);
+    EXPECT_TRUE(d->isVisible());
+    EXPECT_TRUE(d->windowState() & Qt::WindowMaximized);
+    clic(skin::kBoutonAgrandir);
+    EXPECT_FALSE(d->windowState() & Qt::WindowMaximized);
+
+    // The system menu, with the skin's pictures.
+    const auto actions = cadre->MenuSysteme()->actions();
+    QStringList libelles;
+    for (auto* a : actions) {
+        libelles << (a->isSeparator() ? QString("-") : a->text());
+        EXPECT_TRUE(a->isSeparator() || !a->icon().isNull()) << a->text().toStdString();
+    }
+    EXPECT_EQ(libelles, (QStringList{"Restaurer", QString::fromStdString(Cp1252VersUtf8("Réduire")),
+                                     "Agrandir", "-", "Fermer"}));
+    actions[0]->trigger(); // "Restaurer" does nothing to a normal window
+    EXPECT_EQ(d->windowState(), Qt::WindowNoState);
+    actions[2]->trigger();
+    EXPECT_TRUE(d->windowState() & Qt::WindowMaximized);
+    actions[0]->trigger();
+    EXPECT_FALSE(d->windowState() & Qt::WindowMaximized);
+    actions[4]->trigger();
+    EXPECT_FALSE(d->isVisible());
 }
 
 TEST_F(Habillage, FenetresQuiGardentLeurCadre) {
@@ -106,82 +161,17 @@ TEST_F(Habillage, FenetresQuiGardentLeurCadre) {
     menu.popup(QPoint(0, 0));
     EXPECT_FALSE(CadreFenetre::De(&menu));
     menu.close();
-}
 
-TEST_F(Habillage, BoutonsDuTitre) {
-    auto d = Dialogue();
-    d->resize(400, 200);
-    d->show();
-    auto* cadre = CadreFenetre::De(d.get());
-    ASSERT_TRUE(cadre);
-    const QPoint fermer = Centre(*cadre, d.get(), skin::kBoutonFermer);
-    const QImage avant = d->grab().toImage();
-    Souris(d.get(), QEvent::MouseButtonPress, fermer, Qt::LeftButton);
-    EXPECT_TRUE(cadre->Cadre().Enfonce(skin::kBoutonFermer));
-    // The pressed picture is drawn.
-    const QImage enfonce = d->grab().toImage();
-    const qreal r = enfonce.devicePixelRatio();
-    EXPECT_NE(enfonce.pixel((fermer + QPoint(-10, 0)) * r),
-              avant.pixel((fermer + QPoint(-10, 0)) * r));
-    Souris(d.get(), QEvent::MouseButtonRelease, fermer, Qt::NoButton);
-    EXPECT_FALSE(d->isVisible());
-
-    // Shown again, it isn't ended any more; the enlarge button enlarges, then restores.
-    d->show();
-    const QPoint agrandir = Centre(*cadre, d.get(), skin::kBoutonAgrandir);
-    Souris(d.get(), QEvent::MouseButtonPress, agrandir, Qt::LeftButton);
-    Souris(d.get(), QEvent::MouseButtonRelease, agrandir, Qt::NoButton);
-    EXPECT_TRUE(d->isVisible());
-    EXPECT_TRUE(d->windowState() & Qt::WindowMaximized);
-    const QPoint restaurer = Centre(*cadre, d.get(), skin::kBoutonAgrandir);
-    Souris(d.get(), QEvent::MouseButtonPress, restaurer, Qt::LeftButton);
-    Souris(d.get(), QEvent::MouseButtonRelease, restaurer, Qt::NoButton);
-    EXPECT_FALSE(d->windowState() & Qt::WindowMaximized);
-}
-
-TEST_F(Habillage, MenuSysteme) {
-    auto d = Dialogue();
-    d->show();
-    auto* cadre = CadreFenetre::De(d.get());
-    ASSERT_TRUE(cadre);
-    QStringList libelles;
-    for (auto* a : cadre->MenuSysteme()->actions())
-        libelles << (a->isSeparator() ? QString("-") : a->text());
-    EXPECT_EQ(libelles, (QStringList{"Restaurer", QString::fromStdString(Cp1252VersUtf8("Réduire")),
-                                     "Agrandir", "-", "Fermer"}));
-    for (auto* a : cadre->MenuSysteme()->actions()) {
-        if (!a->isSeparator()) {
-            EXPECT_FALSE(a->icon().isNull()) << a->text().toStdString();
-        }
+    // Without Skin.ini nothing is dressed; asked once, a second window says nothing more.
+    std::filesystem::remove(dossier.Systeme() / "Skin.ini");
+    Installer();
+    for (int i = 0; i < 2; ++i) {
+        auto d = Dialogue();
+        d->show();
+        EXPECT_FALSE(CadreFenetre::De(d.get()));
     }
-    // "Restaurer" does nothing to a normal window.
-    cadre->MenuSysteme()->actions()[0]->trigger();
-    EXPECT_EQ(d->windowState(), Qt::WindowNoState);
-    cadre->MenuSysteme()->actions()[2]->trigger();
-    EXPECT_TRUE(d->windowState() & Qt::WindowMaximized);
-    cadre->MenuSysteme()->actions()[0]->trigger();
-    EXPECT_FALSE(d->windowState() & Qt::WindowMaximized);
-    cadre->MenuSysteme()->actions()[4]->trigger();
-    EXPECT_FALSE(d->isVisible());
-}
-
-TEST_F(Habillage, LeTitreDeplaceLaFenetre) {
-    auto d = Dialogue();
-    d->resize(400, 200);
-    d->show();
-    d->move(100, 100);
-    const QPoint depart = d->pos();
-    Souris(d.get(), QEvent::MouseButtonPress, QPoint(200, 10), Qt::LeftButton);
-    EXPECT_EQ(d->cursor().shape(), Qt::BitmapCursor); // the skin's deplace.ico
-    Souris(d.get(), QEvent::MouseMove, QPoint(230, 30), Qt::LeftButton);
-    EXPECT_EQ(d->pos(), depart + QPoint(30, 20));
-    Souris(d.get(), QEvent::MouseButtonRelease, QPoint(230, 30), Qt::NoButton);
-    EXPECT_NE(d->cursor().shape(), Qt::BitmapCursor);
-    // A press in the content moves nothing.
-    Souris(d.get(), QEvent::MouseButtonPress, QPoint(200, 150), Qt::LeftButton);
-    Souris(d.get(), QEvent::MouseMove, QPoint(220, 170), Qt::LeftButton);
-    Souris(d.get(), QEvent::MouseButtonRelease, QPoint(220, 170), Qt::NoButton);
-    EXPECT_EQ(d->pos(), depart + QPoint(30, 20));
+    EXPECT_EQ(utilisateur.messages.size(), 1u);
+    EXPECT_TRUE(utilisateur.ADit("Fichier de configuration du skin introuvable !"));
 }
 
 TEST_F(Habillage, UnAutreBitmapChangeLAspect) {
@@ -209,19 +199,6 @@ TEST_F(Habillage, UnAutreBitmapChangeLAspect) {
     EXPECT_EQ(apres.pixel(QPoint(150, 140) * r), avant.pixel(QPoint(150, 140) * r));
 }
 
-TEST_F(Habillage, SansSkinIniRienNEstHabille) {
-    std::filesystem::remove(dossier.Systeme() / "Skin.ini");
-    Installer();
-    auto d = Dialogue();
-    d->show();
-    EXPECT_FALSE(CadreFenetre::De(d.get()));
-    EXPECT_TRUE(utilisateur.ADit("Fichier de configuration du skin introuvable !"));
-    // Asked once: a second window says nothing more.
-    auto e = Dialogue();
-    e->show();
-    EXPECT_EQ(utilisateur.messages.size(), 1u);
-}
-
 TEST_F(Habillage, UnSkinFautifSeDessineSansFaute) {
     dossier.Ecrire("Skin.ini", "fichier = skin.bmp\n"
                                "heighttitre = 20\n"
@@ -238,9 +215,9 @@ TEST_F(Habillage, UnSkinFautifSeDessineSansFaute) {
     d->show();
     ASSERT_TRUE(CadreFenetre::De(d.get()));
     EXPECT_FALSE(d->grab().isNull());
-    EXPECT_TRUE(utilisateur.ADit("division par zéro"));
-    EXPECT_TRUE(utilisateur.ADit("source hors de l'image"));
-    EXPECT_TRUE(utilisateur.ADit("source en partie hors de l'image"));
+    for (const char* dit :
+         {"division par zéro", "source hors de l'image", "source en partie hors de l'image"})
+        EXPECT_TRUE(utilisateur.ADit(dit)) << dit;
     // The bitmap missing: said, and the frame drawn in the window's colour.
     dossier.Ecrire("Skin.ini", "fichier = absente.bmp\nheighttitre = 20\n");
     Installer();
