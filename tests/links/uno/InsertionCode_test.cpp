@@ -38,7 +38,9 @@ protected:
     std::unique_ptr<LiensSysteme> liens;
 };
 
-TEST_F(InsertionDansWriter, CodeInsereAuCurseurPuisRelu) {
+// One office for the three steps: a code and its tooltip put at the cursor, then a code of a new
+// document explained, then the office killed under the link.
+TEST_F(InsertionDansWriter, CodeInsereReluExpliqueEtOfficeFerme) {
     ASSERT_TRUE(liens->Office().NouveauDocument())
         << (u.messages.empty() ? "" : u.messages[0].technique);
     ChoixDonnee choix;
@@ -51,10 +53,8 @@ TEST_F(InsertionDansWriter, CodeInsereAuCurseurPuisRelu) {
     ASSERT_TRUE(InsererInfoBulle(ctx, {"Titre long", "Le texte", "mot", "", 10}));
     EXPECT_EQ(ToutLeTexte(),
               "#mrl(VLVB.DON+VLVB-3a12:2)##mrl(INFO:MRL:10:Titre_long:Le_texte:mot)#");
-    EXPECT_TRUE(u.messages.empty()) << u.messages[0].texte;
-}
+    ASSERT_TRUE(u.messages.empty()) << u.messages[0].texte;
 
-TEST_F(InsertionDansWriter, CodeSelectionneExplique) {
     ASSERT_TRUE(liens->Office().NouveauDocument());
     ctx.etat.insertion.codeEnAttente = "nomDossier";
     ASSERT_TRUE(InsererCode(ctx));
@@ -65,9 +65,7 @@ TEST_F(InsertionDansWriter, CodeSelectionneExplique) {
     ASSERT_EQ(u.messages.size(), 1u);
     EXPECT_EQ(u.messages[0].titre, "Interprétation d'un code Verdane");
     EXPECT_NE(u.messages[0].texte.find("le nom du dossier"), Texte::npos);
-}
 
-TEST_F(InsertionDansWriter, OfficeFermeEntreDeuxInsertions) {
     ASSERT_TRUE(liens->Office().NouveauDocument());
     ctx.etat.insertion.codeEnAttente = "saut2page";
     ASSERT_TRUE(InsererCode(ctx));
@@ -76,7 +74,7 @@ TEST_F(InsertionDansWriter, OfficeFermeEntreDeuxInsertions) {
     ::kill(-pid, SIGKILL);
     // The link starts another office, which has no document: said so, nothing breaks.
     EXPECT_FALSE(InsererCode(ctx));
-    ASSERT_FALSE(u.messages.empty());
+    ASSERT_GT(u.messages.size(), 1u);
     EXPECT_EQ(u.messages.back().texte,
               "Aucun document n'est actuellement ouvert dans OpenOffice avec Verdane.");
     ASSERT_TRUE(liens->Office().NouveauDocument());
