@@ -39,16 +39,8 @@ TEST_F(TabsCulturesTest, AssolementParGroupesAvecTotaux) {
               Culture("Orge", 2, 3, 10), Culture("Inconnue", 7, 4, 99), EnrCulture{},
               Culture("Après la fin", 1, 5, 1000)});
     const std::string rtf = Lignes();
-    const auto ble = rtf.find(" Blé}"), orge = rtf.find(" Orge}"),
-               vente = rtf.find(" Cultures de vente}");
-    const auto mais = rtf.find(" Maïs ensilage}"), fourr = rtf.find(" Cult. fourragères}");
-    const auto marai = rtf.find(" Cult. maraîchères}");
-    ASSERT_NE(marai, std::string::npos);
-    EXPECT_LT(ble, orge);
-    EXPECT_LT(orge, vente);
-    EXPECT_LT(vente, mais);
-    EXPECT_LT(mais, fourr);
-    EXPECT_LT(fourr, marai);
+    EXPECT_TRUE(DansLOrdre(rtf, {" Blé}", " Orge}", " Cultures de vente}", " Maïs ensilage}",
+                                 " Cult. fourragères}", " Cult. maraîchères}"}));
     // Years 1 to 3 of the sums: vente 31+11, 32+12, 33+13 at one decimal, in bold; year 0
     // isn't shown.
     EXPECT_TRUE(
@@ -96,26 +88,19 @@ TEST_F(TabsCulturesTest, CodesArobaseEtComposites) {
                       {5, {0, 4}},
                       {6, {0, 10}}});
     Don("Cult7t.don", {{46, {0, 4}}, {70, {0, 10}}});
-    // Division by a zero surface gives 0; kind 2 reads record 19 for 18, kind 1 record 17.
-    const std::tuple<int, const char*, int, float> cas[] = {{2, "15+16+17/1", 1, 3},
-                                                            {2, "@15+16+17/1:2", 1, 3},
-                                                            {2, "15+16+17/1", 3, 0},
-                                                            {2, "82a-1", 1, 7},
-                                                            {2, "82a-1", 0, 0},
-                                                            {2, "6-5", 1, 6},
-                                                            {2, "70/46t", 1, 2.5f},
-                                                            {2, "70t", 1, 10},
-                                                            {2, "18", 1, 1.5f},
-                                                            {1, "18", 1, 15},
-                                                            {1, "19", 1, 3},
-                                                            {1, "17", 1, 15},
-                                                            {1, "n'importe quoi", 1, 0},
-                                                            {1, "999", 1, 0}};
-    for (const auto& [genre, code, annee, valeur] : cas) {
-        ctx.etat.domaine.cultureCourante.genre = static_cast<std::int16_t>(genre);
-        EXPECT_EQ(NombreArobaseCulture(ctx.etat, code, annee, false), valeur)
-            << code << " " << annee;
-    }
+    auto valeurs = [&](std::initializer_list<const char*> codes) {
+        std::vector<float> v;
+        for (const char* c : codes) v.push_back(NombreArobaseCulture(ctx.etat, c, 1, false));
+        return v;
+    };
+    // Kind 2 reads record 19 for 18, kind 1 record 17.
+    EXPECT_EQ(valeurs({"15+16+17/1", "@15+16+17/1:2", "82a-1", "6-5", "70/46t", "70t", "18"}),
+              (std::vector<float>{3, 3, 7, 6, 2.5f, 10, 1.5f}));
+    EXPECT_EQ(NombreArobaseCulture(ctx.etat, "15+16+17/1", 3, false), 0.0f); // a zero surface
+    EXPECT_EQ(NombreArobaseCulture(ctx.etat, "82a-1", 0, false), 0.0f);
+    ctx.etat.domaine.cultureCourante.genre = 1;
+    EXPECT_EQ(valeurs({"18", "19", "17", "n'importe quoi", "999"}),
+              (std::vector<float>{15, 3, 15, 0, 0}));
     EXPECT_EQ(ValeurArobaseCulture(ctx, "16:2", 1, false), "10,00");
     EXPECT_EQ(ValeurArobaseCulture(ctx, "16", 1, false), "10");
     ctx.etat.domaine.numCulturePerenne = 2;

@@ -70,12 +70,9 @@ TEST(CadreDomaine, CelluleEtRegleDeFin) {
 
 TEST_F(TabsImmoEmprTest, ListeVideTitresEtRegle) {
     const std::string rtf = Rendre("imemp:immo2");
-    const auto anciennes =
-        rtf.find("\\ql\\fs20\\cf4\\b\\i\\ul Immobilisations anciennes\\par \\plain ");
-    const auto nouvelles =
-        rtf.find("\\ql\\fs20\\cf4\\b\\i\\ul Immobilisations nouvelles\\par \\plain ");
-    ASSERT_NE(nouvelles, std::string::npos);
-    EXPECT_LT(anciennes, nouvelles);
+    EXPECT_TRUE(
+        DansLOrdre(rtf, {"\\ql\\fs20\\cf4\\b\\i\\ul Immobilisations anciennes\\par \\plain ",
+                         "\\ql\\fs20\\cf4\\b\\i\\ul Immobilisations nouvelles\\par \\plain "}));
     EXPECT_EQ(Bords(rtf),
               (std::vector<int>{1500, 2400, 3300, 4000, 4700, 5500, 6100, 6900, 7800, 8700, 9500}));
     EXPECT_TRUE(
@@ -113,8 +110,7 @@ TEST_F(TabsImmoEmprTest, ImmobilisationsParGroupe) {
         Contient(anciennes, {" hangar }\\cell", " F}\\cell", " Dég.}\\cell", "\\cf9 -250}\\cell"}));
     // The title's paragraphs before the header, then one paragraph opening the group.
     EXPECT_EQ(Compter(anciennes, "\\par \\plain \\plain \\trowd"), 2);
-    const std::string tout = Rendre("imemp:immos");
-    EXPECT_LT(tout.find("hangar"), tout.find("salle"));
+    EXPECT_TRUE(DansLOrdre(Rendre("imemp:immos"), {"hangar", "salle"}));
 }
 
 TEST_F(TabsImmoEmprTest, SubventionsEtEmprunts) {

@@ -30,6 +30,19 @@ inline ::testing::AssertionResult Exclut(std::string_view texte,
     return ::testing::AssertionFailure() << "present:" << presents;
 }
 
+// The pieces stand in `texte` in this order, each after the one before.
+inline ::testing::AssertionResult DansLOrdre(std::string_view texte,
+                                             std::initializer_list<std::string_view> morceaux) {
+    std::size_t depuis = 0;
+    for (auto m : morceaux) {
+        const auto p = texte.find(m, depuis);
+        if (p == std::string_view::npos)
+            return ::testing::AssertionFailure() << "not found in order: [" << m << "]";
+        depuis = p + m.size();
+    }
+    return ::testing::AssertionSuccess();
+}
+
 // Occurrences of `motif` in `texte`, overlapping ones included.
 inline int Compter(std::string_view texte, std::string_view motif) {
     int n = 0;
