@@ -51,11 +51,14 @@ protected:
     }
 };
 
-TEST_F(ValeurCodeTest, AnneeSurUnOuDeuxChiffres) {
+TEST_F(ValeurCodeTest, AnneesLibelleEtUnite) {
     // The one-digit form needs its "a" right behind the digit.
     EXPECT_EQ(Valeurs({"VLVB.don+VLVB-3a12", "VLVB.don+VLVB-10a12", "VLVB.don+VLVB-0a12",
                        "VLVB.don+VLVB-13a12", "VLVB.don+VLVB-03a12"}),
               (Textes{"104,50", "115,00", "100,00", "119,50", "104,50"}));
+    d.Ecrire("Ferme/OV.don", FichierDon({Serie("OV-1:0", "Brebis ÉLEVÉES")}));
+    EXPECT_EQ(Valeurs({"VLVB.don+VLVB-i12", "VLVB.don+VLVB-u12", "OV.don+OV-i1", "OV.don+OV-u1"}),
+              (Textes{"lait vendu", "litres", "brebis élevées", ""}));
     EXPECT_TRUE(u.messages.empty());
 }
 
@@ -70,7 +73,7 @@ TEST_F(ValeurCodeTest, AnneeEtDecimalesRendues) {
     EXPECT_EQ(Valeur("VLVB.don+VLVB-12", 4), "106,00");
 }
 
-TEST_F(ValeurCodeTest, HorsDesBornesDonneVideSansPlanter) {
+TEST_F(ValeurCodeTest, HorsDesBornesAbsentOuTronqueDonneVide) {
     for (const char* code :
          {"VLVB.don+VLVB-14a12", "VLVB.don+VLVB-99a12", "VLVB.don+VLVB-3a13", "VLVB.don+VLVB-3a0",
           "VLVB.don+VLVB-3a", "VLVB.don+VLVB-", "VLVB.don+VLVB-3a99999999999999999999"})
@@ -80,27 +83,17 @@ TEST_F(ValeurCodeTest, HorsDesBornesDonneVideSansPlanter) {
     EXPECT_EQ(Valeur("VLVB.don+VLVB-3a12", -1, -1, 1), ""); // slot 1 names no dossier
     EXPECT_EQ(Valeur("VLVB.don+VLVB-3a12", -1, -1, 42), "");
     EXPECT_TRUE(u.messages.empty());
-}
 
-TEST_F(ValeurCodeTest, FichierAbsentOuVideSansMessage) {
     d.Ecrire("Ferme/VIDE.don", "");
     // No file: not even the word is looked at.
     EXPECT_EQ(Valeurs({"ABSENT.don+X-3a1", "VIDE.don+X-3a1", "VIDE.don+X-zzz1"}), Textes(3));
     EXPECT_TRUE(u.messages.empty());
-}
 
-TEST_F(ValeurCodeTest, EnregistrementTronqueDonneVide) {
     std::string octets = FichierDon({Serie("T-1:0", "t", 1)});
     octets += EcrireEnrDon(Serie("T-2:0", "t", 2)).substr(0, 80);
     d.Ecrire("Ferme/T.don", octets);
     EXPECT_EQ(Valeurs({"T.don+T-1a1", "T.don+T-1a2", "T.don+T-i2", "T.don+T-max2"}),
               (Textes{"2", "", "", ""}));
-}
-
-TEST_F(ValeurCodeTest, LibelleEtUnite) {
-    d.Ecrire("Ferme/OV.don", FichierDon({Serie("OV-1:0", "Brebis ÉLEVÉES")}));
-    EXPECT_EQ(Valeurs({"VLVB.don+VLVB-i12", "VLVB.don+VLVB-u12", "OV.don+OV-i1", "OV.don+OV-u1"}),
-              (Textes{"lait vendu", "litres", "brebis élevées", ""}));
 }
 
 TEST_F(ValeurCodeTest, MinimumMaximumSommeMoyenne) {
@@ -113,9 +106,8 @@ TEST_F(ValeurCodeTest, MinimumMaximumSommeMoyenne) {
 
     EcrireStat("E.don", {7.0f, 7.0f, 7.0f, 7.0f, 7.0f});
     EXPECT_EQ(Valeurs({"E.don+E-mina5", "E.don+E-maxa5"}), (Textes{"2004", "2004"}));
-}
 
-TEST_F(ValeurCodeTest, PeriodeCourte) {
+    // A short period.
     EcrireStat("S.don", {3.0f, 1.0f, 9.0f, 1.0f, 4.0f});
     ctx.etat.nbAnEtude = 1;
     EXPECT_EQ(Valeurs({"S.don+S-min5", "S.don+S-maxa5", "S.don+S-moy5"}),
@@ -146,9 +138,8 @@ TEST_F(ValeurCodeTest, MessagesDErreur) {
                                        "document utilisé pour que cette erreur n'apparaisse "
                                        "plus.");
     EXPECT_EQ(u.messages[2].genre, "");
-}
 
-TEST_F(ValeurCodeTest, DeuxTirets) {
+    // Two "-": the record stands behind the second.
     d.Ecrire("Ferme/RES-B.don", FichierDon({Serie("R-1:1", "r", 5)}));
     EXPECT_EQ(Valeur("RES-B.don+RES-2a1"), "7,0");
 }

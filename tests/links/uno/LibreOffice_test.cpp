@@ -1,5 +1,9 @@
 // The link against a real LibreOffice: each test starts its own office and ends it.
 
+#include "library/ComposeurCode.h"
+#include "library/InfoBulle.h"
+#include "library/InsererCode.h"
+#include "library/LectureSelection.h"
 #include "links/FinDocument.h"
 #include "links/FormatFichier.h"
 #include "links/Liens.h"
@@ -31,12 +35,14 @@ class Utilisateur : public UtilisateurMuet {
 public:
     void AfficherMessage(const Message& m) override {
         messages.push_back(m.texte + " / " + m.technique);
+        recus.push_back(m);
     }
     // Agrees to everything.
     Reponse Question(const Texte&, const Texte&, Boutons b, Reponse, Icone) override {
         return b == Boutons::OkAnnuler || b == Boutons::Ok ? Reponse::Ok : Reponse::Oui;
     }
     std::vector<std::string> messages;
+    std::vector<Message> recus;
 };
 
 std::string Commande(const std::string& ligne) {
@@ -100,6 +106,10 @@ protected:
     Texte Chemin(const std::string& nom) { return CheminTexte(dossier / nom); }
     std::string Systeme(const std::string& nom) { return (dossier / nom).string(); }
 
+    Texte ToutLeTexte() {
+        liens->Bureau().SelectionnerTout();
+        return liens->Office().LireSelection();
+    }
     // The whole text of a document, opened hidden and closed again.
     Texte Relire(const Texte& chemin) {
         if (!liens->Office().OuvrirDocumentCache(chemin)) return "<illisible>";
@@ -192,6 +202,50 @@ TEST_F(LibreOfficeTest, ConversionsDUnLotSansVerrouNiCopie) {
     EXPECT_EQ(Verrous(dossier), std::vector<std::string>{});
     EXPECT_TRUE(u.messages.empty()) << u.messages[0];
     EXPECT_EQ(liens->Bureau().Demarrages(), 1) << "one start for the whole run";
+}
+
+// Codes composed by the insertion dialogs, in one office: a code and its tooltip put at the cursor,
+// then a code of a new document explained, then the office killed under the link.
+TEST_F(LibreOfficeTest, CodeInsereReluExpliqueEtOfficeFerme) {
+    ctx.etat.enrDossier.nom = "TILLEULS";
+    ASSERT_TRUE(liens->Office().NouveauDocument()) << (u.recus.empty() ? "" : u.recus[0].technique);
+    ChoixDonnee choix;
+    choix.cle = "VLVB.DON+VLVB-12:0";
+    choix.indexValeur = 4 + 3;
+    choix.decimales = 2;
+    ctx.etat.insertion.codeEnAttente = ComposeurCode::CodeDonnee(choix);
+    ASSERT_TRUE(InsererCode(ctx));
+    // Behind it, a tooltip whose blanks travel as "_": the cursor stands behind the first.
+    ASSERT_TRUE(InsererInfoBulle(ctx, {"Titre long", "Le texte", "mot", "", 10}));
+    EXPECT_EQ(ToutLeTexte(),
+              "#mrl(VLVB.DON+VLVB-3a12:2)##mrl(INFO:MRL:10:Titre_long:Le_texte:mot)#");
+    ASSERT_TRUE(u.recus.empty()) << u.recus[0].texte;
+
+    ASSERT_TRUE(liens->Office().NouveauDocument());
+    ctx.etat.insertion.codeEnAttente = "nomDossier";
+    ASSERT_TRUE(InsererCode(ctx));
+    liens->Bureau().SelectionnerTout();
+    const auto explication = ExpliquerSelection(ctx);
+    ASSERT_TRUE(explication);
+    EXPECT_EQ(explication->valeur, "TILLEULS");
+    ASSERT_EQ(u.recus.size(), 1u);
+    EXPECT_EQ(u.recus[0].titre, "Interprétation d'un code Verdane");
+    EXPECT_NE(u.recus[0].texte.find("le nom du dossier"), Texte::npos);
+
+    ASSERT_TRUE(liens->Office().NouveauDocument());
+    ctx.etat.insertion.codeEnAttente = "saut2page";
+    ASSERT_TRUE(InsererCode(ctx));
+    const pid_t pid = liens->Bureau().PidOffice();
+    ASSERT_GT(pid, 0);
+    ::kill(-pid, SIGKILL);
+    // The link starts another office, which has no document: said so, nothing breaks.
+    EXPECT_FALSE(InsererCode(ctx));
+    ASSERT_GT(u.recus.size(), 1u);
+    EXPECT_EQ(u.recus.back().texte,
+              "Aucun document n'est actuellement ouvert dans OpenOffice avec Verdane.");
+    ASSERT_TRUE(liens->Office().NouveauDocument());
+    EXPECT_TRUE(InsererCode(ctx));
+    EXPECT_EQ(ToutLeTexte(), "#mrl(saut2page)#");
 }
 
 TEST_F(LibreOfficeTest, OfficeTueAuMilieuDUnLot) {
