@@ -8,9 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
 #include <functional>
-#include <unistd.h>
 
 namespace verdane::essai {
 namespace {
