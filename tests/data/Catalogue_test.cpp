@@ -29,9 +29,7 @@ std::string Fichier(const std::vector<EnrCatalogue>& enregistrements) {
 TEST(EnrCatalogue, Disposition) {
     const std::string o = EcrireEnrCatalogue(Enr("VL-3", "Lait", "Produits", "Vente", 1));
     ASSERT_EQ(o.size(), EnrCatalogue::kTaille);
-    EXPECT_EQ(o.substr(12, 4), "Lait");
-    EXPECT_EQ(o.substr(34, 8), "Produits");
-    EXPECT_EQ(o.substr(74, 5), "Vente");
+    EXPECT_EQ(o.substr(12, 4) + o.substr(34, 8) + o.substr(74, 5), "LaitProduitsVente");
     EXPECT_EQ(o[114], 1);
     EXPECT_EQ(LireEnrCatalogue(o).queue, 1);
 }
@@ -50,25 +48,21 @@ TEST(ChargerCatalogue, ArbreDesSeries) {
     ChargerCatalogue(vl, arbre);
     ASSERT_EQ(arbre.racine.enfants.size(), 1u);
     const NoeudCatalogue& cat = arbre.racine.enfants[0];
-    EXPECT_EQ(cat.cle, "VLVB.CFG");
-    EXPECT_EQ(cat.texte, "Vaches laitières");
-    EXPECT_EQ(cat.image, "VL");
+    EXPECT_EQ((std::vector<Texte>{cat.cle, cat.texte, cat.image}),
+              (std::vector<Texte>{"VLVB.CFG", "Vaches laitières", "VL"}));
+    // Series straight under the catalogue, in folders and sub-folders, in the order first met.
     ASSERT_EQ(cat.enfants.size(), 3u);
-    EXPECT_EQ(cat.enfants[0].cle, "VLVB.DON+VLVB-1");
-    EXPECT_EQ(cat.enfants[0].texte, "Effectif");
-    EXPECT_EQ(cat.enfants[0].image, "puce");
-    const NoeudCatalogue& produits = cat.enfants[1];
-    EXPECT_EQ(produits.texte, "Produits");
-    EXPECT_EQ(produits.image, "VL");
-    ASSERT_EQ(produits.enfants.size(), 2u);
-    EXPECT_EQ(produits.enfants[0].cle, "VLVB.DON+VLVB-2");
-    const NoeudCatalogue& ventes = produits.enfants[1];
-    EXPECT_EQ(ventes.texte, "Ventes");
-    ASSERT_EQ(ventes.enfants.size(), 2u);
-    EXPECT_EQ(ventes.enfants[0].texte, "Vente");
-    EXPECT_EQ(ventes.enfants[1].cle, "VLVB.DON+VLVB-7");
-    EXPECT_EQ(cat.enfants[2].texte, "Aides");
-    EXPECT_EQ(cat.enfants[2].enfants.at(0).texte, "Prime");
+    const NoeudCatalogue &produits = cat.enfants[1], &ventes = produits.enfants.at(1);
+    ASSERT_EQ((std::vector<std::size_t>{produits.enfants.size(), ventes.enfants.size()}),
+              (std::vector<std::size_t>{2, 2}));
+    EXPECT_EQ(
+        (std::vector<Texte>{cat.enfants[0].cle, cat.enfants[0].texte, cat.enfants[0].image,
+                            produits.texte, produits.image, produits.enfants[0].cle, ventes.texte,
+                            ventes.enfants.at(0).texte, ventes.enfants.at(1).cle,
+                            cat.enfants[2].texte, cat.enfants[2].enfants.at(0).texte}),
+        (std::vector<Texte>{"VLVB.DON+VLVB-1", "Effectif", "puce", "Produits", "VL",
+                            "VLVB.DON+VLVB-2", "Ventes", "Vente", "VLVB.DON+VLVB-7", "Aides",
+                            "Prime"}));
 
     // A second catalogue with folders of the same names keeps its own.
     const Texte ov =

@@ -1,11 +1,9 @@
 #include "data/EnrDon.h"
 
 #include "EssaisDonnees.h"
+#include "support/OctetsPlaces.h"
 
 #include <gtest/gtest.h>
-
-#include <bit>
-#include <cstring>
 
 namespace verdane {
 namespace {
@@ -17,18 +15,14 @@ using test_donnees::Serie;
 TEST(EnrDon, DispositionSurDisque) {
     EnrDon e = Serie("VLVB-12:2", "Lait vendu|litres", 10.0f, 0.5f);
     e.valeur[13] = -1.25f;
-    const std::string octets = EcrireEnrDon(e);
-    ASSERT_EQ(octets.size(), EnrDon::kTaille);
-    EXPECT_EQ(octets.substr(0, 12), "VLVB-12:2   ");
-    EXPECT_EQ(octets.substr(12, 22), "Lait vendu|litres     ");
-    // valeur(1) = 10.5 at offset 38, little-endian float 32.
-    const auto bits = std::bit_cast<std::uint32_t>(10.5f);
-    EXPECT_EQ(static_cast<unsigned char>(octets[38]), bits & 0xFF);
-    EXPECT_EQ(static_cast<unsigned char>(octets[41]), bits >> 24);
-    float dernier = 0;
-    std::memcpy(&dernier, octets.data() + 86, 4);
-    EXPECT_EQ(dernier, -1.25f);
-
+    // The code, the label, then 14 little-endian float32 from byte 34.
+    const std::string octets = test::OctetsPlaces(EnrDon::kTaille)
+                                   .Chaine(0, "VLVB-12:2", 12)
+                                   .Chaine(12, "Lait vendu|litres", 22)
+                                   .F32s(34, 13, 10.0f, 0.5f)
+                                   .F32(86, -1.25f)
+                                   .Octets();
+    EXPECT_EQ(EcrireEnrDon(e), octets);
     const EnrDon relu = LireEnrDon(octets);
     EXPECT_EQ(relu.code, "VLVB-12:2   ");
     EXPECT_EQ(relu.valeur, e.valeur);
@@ -46,10 +40,8 @@ TEST(EnrDon, LectureParNumeroSansSortirDuFichier) {
     ASSERT_TRUE(LireEnregistrementDon(complet, 1));
     EXPECT_EQ(LireEnregistrementDon(complet, 1)->valeur[0], 1.0f);
     EXPECT_EQ(LireEnregistrementDon(complet, 3)->valeur[2], 5.0f);
-    EXPECT_FALSE(LireEnregistrementDon(complet, 0));
-    EXPECT_FALSE(LireEnregistrementDon(complet, -2));
-    EXPECT_FALSE(LireEnregistrementDon(complet, 4));
-    EXPECT_FALSE(LireEnregistrementDon(complet, 1LL << 40));
+    for (long long numero : {0LL, -2LL, 4LL, 1LL << 40})
+        EXPECT_FALSE(LireEnregistrementDon(complet, numero)) << numero;
     EXPECT_TRUE(LireEnregistrementDon(tronque, 3));
     EXPECT_FALSE(LireEnregistrementDon(tronque, 4));
     EXPECT_FALSE(LireEnregistrementDon(d.Chemin() + "absent.don", 1));

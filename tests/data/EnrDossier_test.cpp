@@ -12,6 +12,8 @@
 namespace verdane {
 namespace {
 
+using test_donnees::DossierFerme;
+
 std::string OctetsDossier() {
     test::OctetsPlaces o(2110);
     o.Chaine(0, "C:\\Marlo\\Dossiers\\FERME\\", 50)
@@ -43,58 +45,66 @@ std::string OctetsDossier() {
     return o.Octets();
 }
 
+// The texts trimmed of their padding.
+std::vector<Texte> Rognes(std::initializer_list<Texte> textes) {
+    std::vector<Texte> r;
+    for (const auto& t : textes) r.push_back(Rogner(t));
+    return r;
+}
+
 TEST(EnrDossier, LuChampParChamp) {
     const std::string octets = OctetsDossier();
     const EnrDossier e = LireEnrDossier(octets);
-    EXPECT_EQ(Rogner(e.chemin), "C:\\Marlo\\Dossiers\\FERME\\");
-    EXPECT_EQ(Rogner(e.nom), "FERME");
-    EXPECT_EQ(Rogner(e.nomExploitation), "GAEC du Haut");
-    EXPECT_EQ(Rogner(e.adresse), "La Lande");
-    EXPECT_EQ(Rogner(e.commune), "Vire");
-    EXPECT_EQ(e.anneeDebut, 2024);
-    EXPECT_EQ(e.nbAnEtude, 6);
+    EXPECT_EQ(Rognes({e.chemin, e.nom, e.nomExploitation, e.adresse, e.commune, e.descProjet,
+                      e.dateDebut, e.conseiller, e.nomAssocie[0], e.nomAssocie[10]}),
+              (std::vector<Texte>{"C:\\Marlo\\Dossiers\\FERME\\", "FERME", "GAEC du Haut",
+                                  "La Lande", "Vire", "Projet\rSuite", "01/10/2024", "M. Conseil",
+                                  "Associé 0", "Associé 10"}));
+    EXPECT_EQ(Rognes({e.naissanceAssocie[10], e.situationAssocie[10], e.regionAgri, e.activAutre,
+                      e.banque, e.numAdh, e.produit[6], e.modeCom[6], e.tel, e.fax}),
+              (std::vector<Texte>{"05/06/1985", "Marié", "Bocage", "Gîtes", "Crédit", "A123",
+                                  "Produit 6", "Mode 6", "0231000000", "0231000001"}));
+    EXPECT_EQ((std::vector<int>{e.anneeDebut, e.nbAnEtude, e.nbAssocies, e.jaAssocie[9],
+                                e.jaAssocie[10], e.moisTva, e.devise}),
+              (std::vector<int>{2024, 6, 10, 0, 1, 3, 1}));
     EXPECT_TRUE(e.EstSociete());
-    EXPECT_EQ(Rogner(e.descProjet), "Projet\rSuite");
-    EXPECT_EQ(e.dateDebut, "01/10/2024");
-    EXPECT_EQ(Rogner(e.conseiller), "M. Conseil");
-    EXPECT_EQ(e.nbAssocies, 10);
-    EXPECT_EQ(Rogner(e.nomAssocie[0]), "Associé 0");
-    EXPECT_EQ(Rogner(e.nomAssocie[10]), "Associé 10");
-    EXPECT_EQ(e.jaAssocie[9], 0);
-    EXPECT_EQ(e.jaAssocie[10], 1);
-    EXPECT_EQ(e.naissanceAssocie[10], "05/06/1985");
-    EXPECT_EQ(Rogner(e.situationAssocie[10]), "Marié");
-    EXPECT_EQ(Rogner(e.regionAgri), "Bocage");
-    EXPECT_EQ(Rogner(e.activAutre), "Gîtes");
-    EXPECT_EQ(Rogner(e.banque), "Crédit");
-    EXPECT_EQ(Rogner(e.numAdh), "A123");
-    EXPECT_EQ(Rogner(e.produit[6]), "Produit 6");
-    EXPECT_EQ(Rogner(e.modeCom[6]), "Mode 6");
-    EXPECT_EQ(e.moisTva, 3);
-    EXPECT_EQ(e.devise, 1);
-    EXPECT_EQ(Rogner(e.tel), "0231000000");
-    EXPECT_EQ(Rogner(e.fax), "0231000001");
     EXPECT_EQ(EcrireEnrDossier(e), octets);
 }
 
-TEST(EnrDossier, FichierCourtLuJusquOuIlVa) {
+// The dossier's record file is found whatever the case of its folder and name; a file cut short
+// gives blanks and zeros for its missing fields; without its files the dossier is forgotten.
+TEST_F(DossierFerme, ChargerDossier) {
+    d.Ecrire("Marlo/FERME/ferme", OctetsDossier());
+    ctx.etat.RepDossier[0] = d.Chemin() + "Marlo";
+    ChargerDossier(ctx);
+    EXPECT_EQ(ctx.etat.anneeDebut, 2024);
+    EXPECT_EQ(ctx.etat.nbAnEtude, 6);
+    EXPECT_TRUE(ctx.etat.enrDossier.EstSociete());
+    EXPECT_EQ(Rogner(ctx.etat.enrDossier.fax), "0231000001");
+
     // Half the record: the fields up to byte 1055 are there, the rest blank or zero.
-    test_donnees::DossierTemporaire d;
     d.Ecrire("FERME/FERME", OctetsDossier().substr(0, 1055));
-    test_donnees::FauxUtilisateurDonnees u;
-    Contexte ctx(u);
     ctx.etat.RepDossier[0] = d.Chemin();
     ctx.etat.NomDossier[0] = "FERME";
     ChargerDossier(ctx);
     EXPECT_EQ(ctx.etat.NomDossier[0], "FERME");
     EXPECT_EQ(ctx.etat.nbAnEtude, 6);
-    EXPECT_EQ(Rogner(ctx.etat.enrDossier.nomExploitation), "GAEC du Haut");
+    const EnrDossier& e = ctx.etat.enrDossier;
+    EXPECT_EQ(Rogner(e.nomExploitation), "GAEC du Haut");
     // The last name is cut inside its padding: what is there is read.
-    EXPECT_EQ(Rogner(ctx.etat.enrDossier.nomAssocie[10]), "Associé 10");
-    EXPECT_EQ(ctx.etat.enrDossier.jaAssocie[10], 0);
-    EXPECT_EQ(ctx.etat.enrDossier.naissanceAssocie[10], Texte(10, ' '));
-    EXPECT_EQ(ctx.etat.enrDossier.devise, 0);
-    EXPECT_EQ(ctx.etat.enrDossier.fax, Texte(20, ' '));
+    EXPECT_EQ(Rogner(e.nomAssocie[10]), "Associé 10");
+    EXPECT_EQ(e.jaAssocie[10] + e.devise, 0);
+    EXPECT_EQ(e.naissanceAssocie[10], Texte(10, ' '));
+    EXPECT_EQ(e.fax, Texte(20, ' '));
+
+    ctx.etat.NomDossier[0] = "Absent";
+    ChargerDossier(ctx);
+    EXPECT_EQ(ctx.etat.NomDossier[0], "");
+    EXPECT_EQ(ctx.etat.RepDossier[0], d.Chemin());
+    ctx.etat.RepDossier[0] = d.Chemin() + "rien";
+    ctx.etat.NomDossier[0] = "Absent";
+    ChargerDossier(ctx);
+    EXPECT_EQ(ctx.etat.RepDossier[0] + ctx.etat.NomDossier[0], "");
 }
 
 } // namespace

@@ -2,8 +2,11 @@
 // Helpers of the data reader tests: series records and .don files.
 
 #include "data/EnrDon.h"
+#include "shell/etat/Contexte.h"
 #include "support/DossierTemporaire.h"
 #include "support/FauxUtilisateur.h"
+
+#include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
@@ -29,5 +32,18 @@ inline std::string FichierDon(const std::vector<EnrDon>& enregistrements) {
     for (const auto& e : enregistrements) octets += EcrireEnrDon(e);
     return octets;
 }
+
+// A dossier "Ferme" in a scratch folder as slot 0; numbers with a plain space for thousands.
+class DossierFerme : public ::testing::Test {
+protected:
+    DossierFerme() : ctx(u) {
+        ctx.etat.RepDossier[0] = d.Chemin();
+        ctx.etat.NomDossier[0] = "Ferme";
+        ctx.etat.marques = MarquesNombre{",", " "};
+    }
+    DossierTemporaire d;
+    FauxUtilisateurDonnees u;
+    Contexte ctx;
+};
 
 } // namespace verdane::test_donnees

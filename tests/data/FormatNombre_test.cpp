@@ -13,76 +13,58 @@ namespace {
 
 const MarquesNombre kAnglais{".", ","};
 
+using Textes = std::vector<Texte>;
+
 // French marks with a plain space, easier to read in the expectations.
 Texte Fr(float v, int d, bool vide = false) {
     return FormatNombre(v, static_cast<std::int16_t>(d), vide, MarquesNombre{",", " "});
 }
+// Each value with `d` decimals (7, or any value out of 0..6: AUTO).
+Textes Fr(int d, std::initializer_list<float> valeurs) {
+    Textes t;
+    for (float v : valeurs) t.push_back(Fr(v, d));
+    return t;
+}
 
 TEST(FormatNombre, ArrondiAuPairSurLaValeurExacteDuFloat) {
-    EXPECT_EQ(Fr(2.5f, 0), "2");
-    EXPECT_EQ(Fr(3.5f, 0), "4");
-    EXPECT_EQ(Fr(-2.5f, 0), "-2");
-    EXPECT_EQ(Fr(0.125f, 2), "0,12");
-    EXPECT_EQ(Fr(0.375f, 2), "0,38");
+    EXPECT_EQ(Fr(0, {2.5f, 3.5f, -2.5f, 999.5f, -1234.0f, 123.0f}),
+              (Textes{"2", "4", "-2", "1 000", "-1 234", "123"}));
+    EXPECT_EQ(Fr(2, {0.125f, 0.375f}), (Textes{"0,12", "0,38"}));
     // 1234.5678f is 1234.5677490234375: no tie, the exact value decides.
     EXPECT_EQ(Fr(1234.5678f, 3), "1 234,568");
     EXPECT_EQ(Fr(1234.5678f, 6), "1 234,567749");
     // 0.15f lies above 0.15, so it goes up although a decimal tie would go to even.
-    EXPECT_EQ(Fr(0.15f, 1), "0,2");
-    EXPECT_EQ(Fr(0.25f, 1), "0,2");
-    EXPECT_EQ(Fr(999.5f, 0), "1 000");
-}
-
-TEST(FormatNombre, MilliersEtDecimales) {
+    EXPECT_EQ(Fr(1, {0.15f, 0.25f}), (Textes{"0,2", "0,2"}));
+    EXPECT_EQ(Fr(0.5f, 4), "0,5000");
     EXPECT_EQ(FormatNombre(1234567.0f, 2, false), "1\xA0"
                                                   "234\xA0"
                                                   "567,00");
     EXPECT_EQ(FormatNombre(1234567.0f, 2, false, kAnglais), "1,234,567.00");
-    EXPECT_EQ(Fr(-1234.0f, 0), "-1 234");
-    EXPECT_EQ(Fr(123.0f, 0), "123");
-    EXPECT_EQ(Fr(0.5f, 4), "0,5000");
 }
 
 TEST(FormatNombre, ZeroEtSigne) {
     EXPECT_EQ(Fr(0.0f, 2, true), " ");
     EXPECT_EQ(Fr(-0.0f, 2, true), " ");
-    EXPECT_EQ(Fr(0.0f, 2, false), "0,00");
-    EXPECT_EQ(Fr(-0.0f, 0), "0");
     // Rounded to nothing: no "-0".
-    EXPECT_EQ(Fr(-0.004f, 2), "0,00");
+    EXPECT_EQ(Fr(2, {0.0f, -0.004f}), (Textes{"0,00", "0,00"}));
+    EXPECT_EQ(Fr(-0.0f, 0), "0");
     // A small value isn't zero for the blank rule.
     EXPECT_EQ(Fr(0.001f, 0, true), "0");
 }
 
 TEST(FormatNombre, Auto) {
-    EXPECT_EQ(Fr(100.0f, 7), "100");
-    EXPECT_EQ(Fr(1.5f, 7), "1,5");
-    EXPECT_EQ(Fr(1234.5678f, 7), "1 234,57");
-    EXPECT_EQ(Fr(2.001f, 7), "2");     // "00" behind the separator
-    EXPECT_EQ(Fr(2.5039f, 7), "2,5");  // "50": a "0" second alone
-    EXPECT_EQ(Fr(2.0625f, 7), "2,06"); // "06": two places
-    EXPECT_EQ(Fr(2.5039f, 8), "2,5");  // any value out of 0..6 is AUTO
+    // "00" behind the separator: none; "50": a "0" second alone goes; "06": two places.
+    EXPECT_EQ(
+        Fr(7, {100.0f, 1.5f, 1234.5678f, 2.001f, 2.5039f, 2.0625f, 0.1f, 0.12f, 1e-10f, -3.75f}),
+        (Textes{"100", "1,5", "1 234,57", "2", "2,5", "2,06", "0,1", "0,12", "0", "-3,75"}));
+    EXPECT_EQ(Fr(2.5039f, 8), "2,5");
     EXPECT_EQ(Fr(2.5039f, -1), "2,5");
-    EXPECT_EQ(Fr(0.1f, 7), "0,1");
-    EXPECT_EQ(Fr(0.12f, 7), "0,12");
-    EXPECT_EQ(Fr(1e-10f, 7), "0");
-    EXPECT_EQ(Fr(-3.75f, 7), "-3,75");
-}
-
-TEST(FormatNombre, AutoArrondiParLeMotifLoinDeZero) {
     // Nothing is rounded first: the pattern rounds halves away from zero, where the explicit
-    // rounding of 0 to 6 decimals goes to even.
-    EXPECT_EQ(Fr(0.125f, 7), "0,13");
-    EXPECT_EQ(Fr(-0.125f, 7), "-0,13");
-    EXPECT_EQ(Fr(0.125f, 2), "0,12");
-    // The shortest text decides, not the float's binary value (2.67499995...).
-    EXPECT_EQ(Fr(2.675f, 7), "2,68");
-    EXPECT_EQ(Fr(-2.675f, 7), "-2,68");
-    EXPECT_EQ(Fr(2.674f, 7), "2,67");
-    // Carries through the integer part and its thousands.
-    EXPECT_EQ(Fr(0.995f, 7), "1,00");
-    EXPECT_EQ(Fr(999.995f, 7), "1 000,00");
-    EXPECT_EQ(Fr(-9999.995f, 7), "-10 000,00");
+    // rounding of 0 to 6 decimals goes to even (0.125 with 2 decimals, above). The shortest
+    // text decides, not the float's binary value (2.67499995...). Carries go through the
+    // integer part and its thousands.
+    EXPECT_EQ(Fr(7, {0.125f, -0.125f, 2.675f, -2.675f, 2.674f, 0.995f, 999.995f, -9999.995f}),
+              (Textes{"0,13", "-0,13", "2,68", "-2,68", "2,67", "1,00", "1 000,00", "-10 000,00"}));
 }
 
 TEST(FormatNombre, ValeursExtremesDonnentUnTexte) {
@@ -119,26 +101,10 @@ TEST(LireNombre, RelitCeQueFormatNombreEcrit) {
 }
 
 TEST(LireNombre, RefuseCeQuiNEstPasUnNombre) {
-    EXPECT_FALSE(LireNombre(""));
-    EXPECT_FALSE(LireNombre("   "));
-    EXPECT_FALSE(LireNombre(" "));
-    EXPECT_FALSE(LireNombre("abc"));
-    EXPECT_FALSE(LireNombre("12abc"));
-    EXPECT_FALSE(LireNombre("-"));
+    for (const char* t : {"", "   ", " ", "abc", "12abc", "-"}) EXPECT_FALSE(LireNombre(t)) << t;
     EXPECT_EQ(LireNombre(" 12,5 "), 12.5);
     EXPECT_EQ(LireNombre("+3"), 3.0);
     EXPECT_EQ(LireNombre("-1 234,5"), -1234.5);
-}
-
-TEST(MarquesNombre, SelonLaLangueDeLaLocale) {
-    const auto fr = MarquesDeLocale("fr_FR.UTF-8");
-    EXPECT_EQ(fr.decimale, ",");
-    EXPECT_EQ(fr.milliers, "\xA0");
-    EXPECT_EQ(MarquesDeLocale("en_US.UTF-8").decimale, ".");
-    EXPECT_EQ(MarquesDeLocale("en_GB").milliers, ",");
-    EXPECT_EQ(MarquesDeLocale("de_DE@euro").milliers, ".");
-    for (const char* nom : {"C", "POSIX", "", "C.UTF-8", "xx_YY", "_"})
-        EXPECT_EQ(MarquesDeLocale(nom).decimale, ",") << nom;
 }
 
 // Sets environment variables for one test and puts them back.
@@ -165,20 +131,30 @@ private:
     std::vector<std::pair<std::string, std::optional<std::string>>> anciens_;
 };
 
-TEST(MarquesNombre, DuSysteme) {
+TEST(MarquesNombre, SelonLaLocaleEtLEnvironnement) {
+    const auto fr = MarquesDeLocale("fr_FR.UTF-8");
+    EXPECT_EQ(fr.decimale, ",");
+    EXPECT_EQ(fr.milliers, "\xA0");
+    EXPECT_EQ(MarquesDeLocale("en_US.UTF-8").decimale, ".");
+    EXPECT_EQ(MarquesDeLocale("en_GB").milliers, ",");
+    EXPECT_EQ(MarquesDeLocale("de_DE@euro").milliers, ".");
+    for (const char* nom : {"C", "POSIX", "", "C.UTF-8", "xx_YY", "_"})
+        EXPECT_EQ(MarquesDeLocale(nom).decimale, ",") << nom;
+
+    // From the environment: LC_ALL, then LC_NUMERIC, then LANG; French when none says.
     Environnement env;
-    env.Poser("LC_ALL", nullptr);
-    env.Poser("LC_NUMERIC", nullptr);
-    env.Poser("LANG", nullptr);
-    EXPECT_EQ(MarquesDuSysteme().decimale, ",");
-    env.Poser("LANG", "en_US.UTF-8");
-    EXPECT_EQ(MarquesDuSysteme().decimale, ".");
-    env.Poser("LC_NUMERIC", "fr_FR.UTF-8");
-    EXPECT_EQ(MarquesDuSysteme().decimale, ",");
-    env.Poser("LC_ALL", "en_GB");
-    EXPECT_EQ(MarquesDuSysteme().decimale, ".");
-    env.Poser("LC_ALL", "");
-    EXPECT_EQ(MarquesDuSysteme().decimale, ",");
+    for (const char* nom : {"LC_ALL", "LC_NUMERIC", "LANG"}) env.Poser(nom, nullptr);
+    const std::tuple<const char*, const char*, const char*> etapes[] = {
+        // variable, value, decimal mark
+        {"LANG", nullptr, ","},
+        {"LANG", "en_US.UTF-8", "."},
+        {"LC_NUMERIC", "fr_FR.UTF-8", ","},
+        {"LC_ALL", "en_GB", "."},
+        {"LC_ALL", "", ","}};
+    for (const auto& [nom, valeur, decimale] : etapes) {
+        env.Poser(nom, valeur);
+        EXPECT_EQ(MarquesDuSysteme().decimale, decimale) << nom << "=" << (valeur ? valeur : "");
+    }
 }
 
 } // namespace

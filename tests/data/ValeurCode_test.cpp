@@ -7,20 +7,17 @@
 namespace verdane {
 namespace {
 
-using test_donnees::DossierTemporaire;
-using test_donnees::FauxUtilisateurDonnees;
 using test_donnees::FichierDon;
 using test_donnees::Serie;
 
-// A dossier "Ferme" in a scratch folder, with a few series files, as slot 0.
-class ValeurCodeTest : public ::testing::Test {
+using Textes = std::vector<Texte>;
+
+// The dossier with a five-year study from 2004 and a few series files.
+class ValeurCodeTest : public test_donnees::DossierFerme {
 protected:
-    ValeurCodeTest() : ctx(u) {
-        ctx.etat.RepDossier[0] = d.Chemin();
-        ctx.etat.NomDossier[0] = "Ferme";
+    ValeurCodeTest() {
         ctx.etat.nbAnEtude = 5;
         ctx.etat.anneeDebut = 2004;
-        ctx.etat.marques = MarquesNombre{",", " "};
         // VLVB.don: record 12 holds 100, 101.5, 103, ... with 2 decimals.
         std::vector<EnrDon> vlvb(12, Serie("VLVB-0:0", ""));
         vlvb[11] = Serie("VLVB-12: 2 ", "Lait vendu|litres", 100.0f, 1.5f);
@@ -37,6 +34,11 @@ protected:
         }
         return ValeurCode(ctx, code, posTiret, annee, decimales, dossier);
     }
+    Textes Valeurs(std::initializer_list<const char*> codes) {
+        Textes t;
+        for (const char* c : codes) t.push_back(Valeur(c));
+        return t;
+    }
 
     // Writes the series of a record 5 whose values over years 1..5 are given.
     void EcrireStat(const Texte& nom, std::array<float, 5> v) {
@@ -47,19 +49,16 @@ protected:
         f[4] = e;
         d.Ecrire("Ferme/" + nom, FichierDon(f));
     }
-
-    DossierTemporaire d;
-    FauxUtilisateurDonnees u;
-    Contexte ctx;
 };
 
-TEST_F(ValeurCodeTest, AnneeSurUnOuDeuxChiffres) {
-    EXPECT_EQ(Valeur("VLVB.don+VLVB-3a12"), "104,50");
-    EXPECT_EQ(Valeur("VLVB.don+VLVB-10a12"), "115,00");
-    EXPECT_EQ(Valeur("VLVB.don+VLVB-0a12"), "100,00");
-    EXPECT_EQ(Valeur("VLVB.don+VLVB-13a12"), "119,50");
+TEST_F(ValeurCodeTest, AnneesLibelleEtUnite) {
     // The one-digit form needs its "a" right behind the digit.
-    EXPECT_EQ(Valeur("VLVB.don+VLVB-03a12"), "104,50");
+    EXPECT_EQ(Valeurs({"VLVB.don+VLVB-3a12", "VLVB.don+VLVB-10a12", "VLVB.don+VLVB-0a12",
+                       "VLVB.don+VLVB-13a12", "VLVB.don+VLVB-03a12"}),
+              (Textes{"104,50", "115,00", "100,00", "119,50", "104,50"}));
+    d.Ecrire("Ferme/OV.don", FichierDon({Serie("OV-1:0", "Brebis ÉLEVÉES")}));
+    EXPECT_EQ(Valeurs({"VLVB.don+VLVB-i12", "VLVB.don+VLVB-u12", "OV.don+OV-i1", "OV.don+OV-u1"}),
+              (Textes{"lait vendu", "litres", "brebis élevées", ""}));
     EXPECT_TRUE(u.messages.empty());
 }
 
@@ -74,72 +73,47 @@ TEST_F(ValeurCodeTest, AnneeEtDecimalesRendues) {
     EXPECT_EQ(Valeur("VLVB.don+VLVB-12", 4), "106,00");
 }
 
-TEST_F(ValeurCodeTest, HorsDesBornesDonneVideSansPlanter) {
-    EXPECT_EQ(Valeur("VLVB.don+VLVB-14a12"), "");
-    EXPECT_EQ(Valeur("VLVB.don+VLVB-99a12"), "");
+TEST_F(ValeurCodeTest, HorsDesBornesAbsentOuTronqueDonneVide) {
+    for (const char* code :
+         {"VLVB.don+VLVB-14a12", "VLVB.don+VLVB-99a12", "VLVB.don+VLVB-3a13", "VLVB.don+VLVB-3a0",
+          "VLVB.don+VLVB-3a", "VLVB.don+VLVB-", "VLVB.don+VLVB-3a99999999999999999999"})
+        EXPECT_EQ(Valeur(code), "") << code;
     EXPECT_EQ(Valeur("VLVB.don+VLVB-12", 14), "");
     EXPECT_EQ(Valeur("VLVB.don+VLVB-12", -7), "");
-    EXPECT_EQ(Valeur("VLVB.don+VLVB-3a13"), "");
-    EXPECT_EQ(Valeur("VLVB.don+VLVB-3a0"), "");
-    EXPECT_EQ(Valeur("VLVB.don+VLVB-3a"), "");
-    EXPECT_EQ(Valeur("VLVB.don+VLVB-"), "");
-    EXPECT_EQ(Valeur("VLVB.don+VLVB-3a99999999999999999999"), "");
     EXPECT_EQ(Valeur("VLVB.don+VLVB-3a12", -1, -1, 1), ""); // slot 1 names no dossier
     EXPECT_EQ(Valeur("VLVB.don+VLVB-3a12", -1, -1, 42), "");
     EXPECT_TRUE(u.messages.empty());
-}
 
-TEST_F(ValeurCodeTest, FichierAbsentOuVideSansMessage) {
     d.Ecrire("Ferme/VIDE.don", "");
-    EXPECT_EQ(Valeur("ABSENT.don+X-3a1"), "");
-    EXPECT_EQ(Valeur("VIDE.don+X-3a1"), "");
-    EXPECT_EQ(Valeur("VIDE.don+X-zzz1"), ""); // no file: not even the word is looked at
+    // No file: not even the word is looked at.
+    EXPECT_EQ(Valeurs({"ABSENT.don+X-3a1", "VIDE.don+X-3a1", "VIDE.don+X-zzz1"}), Textes(3));
     EXPECT_TRUE(u.messages.empty());
-}
 
-TEST_F(ValeurCodeTest, EnregistrementTronqueDonneVide) {
     std::string octets = FichierDon({Serie("T-1:0", "t", 1)});
     octets += EcrireEnrDon(Serie("T-2:0", "t", 2)).substr(0, 80);
     d.Ecrire("Ferme/T.don", octets);
-    EXPECT_EQ(Valeur("T.don+T-1a1"), "2");
-    EXPECT_EQ(Valeur("T.don+T-1a2"), "");
-    EXPECT_EQ(Valeur("T.don+T-i2"), "");
-    EXPECT_EQ(Valeur("T.don+T-max2"), "");
-}
-
-TEST_F(ValeurCodeTest, LibelleEtUnite) {
-    EXPECT_EQ(Valeur("VLVB.don+VLVB-i12"), "lait vendu");
-    EXPECT_EQ(Valeur("VLVB.don+VLVB-u12"), "litres");
-    d.Ecrire("Ferme/OV.don", FichierDon({Serie("OV-1:0", "Brebis ÉLEVÉES")}));
-    EXPECT_EQ(Valeur("OV.don+OV-i1"), "brebis élevées");
-    EXPECT_EQ(Valeur("OV.don+OV-u1"), "");
+    EXPECT_EQ(Valeurs({"T.don+T-1a1", "T.don+T-1a2", "T.don+T-i2", "T.don+T-max2"}),
+              (Textes{"2", "", "", ""}));
 }
 
 TEST_F(ValeurCodeTest, MinimumMaximumSommeMoyenne) {
     EcrireStat("S.don", {3.0f, 1.0f, 4.0f, 1.0f, 4.0f});
-    EXPECT_EQ(Valeur("S.don+S-min5"), "1,0");
-    EXPECT_EQ(Valeur("S.don+S-max5"), "4,0");
-    EXPECT_EQ(Valeur("S.don+S-som5"), "13,0");
-    EXPECT_EQ(Valeur("S.don+S-moy5"), "2,6");
     // A tie keeps the earlier year; index 1 counts as anneeDebut.
-    EXPECT_EQ(Valeur("S.don+S-mina5"), "2005");
-    EXPECT_EQ(Valeur("S.don+S-maxa5"), "2006");
+    EXPECT_EQ(Valeurs({"S.don+S-min5", "S.don+S-max5", "S.don+S-som5", "S.don+S-moy5",
+                       "S.don+S-mina5", "S.don+S-maxa5"}),
+              (Textes{"1,0", "4,0", "13,0", "2,6", "2005", "2006"}));
     EXPECT_EQ(Valeur("S.don+S-som5", -1, 3), "13,000");
 
     EcrireStat("E.don", {7.0f, 7.0f, 7.0f, 7.0f, 7.0f});
-    EXPECT_EQ(Valeur("E.don+E-mina5"), "2004");
-    EXPECT_EQ(Valeur("E.don+E-maxa5"), "2004");
-}
+    EXPECT_EQ(Valeurs({"E.don+E-mina5", "E.don+E-maxa5"}), (Textes{"2004", "2004"}));
 
-TEST_F(ValeurCodeTest, PeriodeCourte) {
+    // A short period.
     EcrireStat("S.don", {3.0f, 1.0f, 9.0f, 1.0f, 4.0f});
     ctx.etat.nbAnEtude = 1;
-    EXPECT_EQ(Valeur("S.don+S-min5"), "3,0");
-    EXPECT_EQ(Valeur("S.don+S-maxa5"), "2004");
-    EXPECT_EQ(Valeur("S.don+S-moy5"), "3,0");
-    ctx.etat.nbAnEtude = 0;
-    EXPECT_EQ(Valeur("S.don+S-moy5"), "3,0"); // valeur(1), no division by zero
-    EXPECT_EQ(Valeur("S.don+S-som5"), "3,0");
+    EXPECT_EQ(Valeurs({"S.don+S-min5", "S.don+S-maxa5", "S.don+S-moy5"}),
+              (Textes{"3,0", "2004", "3,0"}));
+    ctx.etat.nbAnEtude = 0; // valeur(1), no division by zero
+    EXPECT_EQ(Valeurs({"S.don+S-moy5", "S.don+S-som5"}), (Textes{"3,0", "3,0"}));
     ctx.etat.nbAnEtude = 300; // beyond the 14 values: bounded
     EXPECT_EQ(Valeur("S.don+S-min5"), "-1 000,0");
 }
@@ -164,9 +138,8 @@ TEST_F(ValeurCodeTest, MessagesDErreur) {
                                        "document utilisé pour que cette erreur n'apparaisse "
                                        "plus.");
     EXPECT_EQ(u.messages[2].genre, "");
-}
 
-TEST_F(ValeurCodeTest, DeuxTirets) {
+    // Two "-": the record stands behind the second.
     d.Ecrire("Ferme/RES-B.don", FichierDon({Serie("R-1:1", "r", 5)}));
     EXPECT_EQ(Valeur("RES-B.don+RES-2a1"), "7,0");
 }
@@ -202,14 +175,10 @@ protected:
 };
 
 TEST_F(ValeurCodeArobase, FichierDeLaCultureCourante) {
-    EXPECT_EQ(Valeur("@12-3a"), "13,0"); // no letter: the crop
-    EXPECT_EQ(Valeur("@c12-10a"), "20,0");
-    EXPECT_EQ(Valeur("@c12-i"), "marge");
-    EXPECT_EQ(Valeur("@12-u"), "€/ha");
-    EXPECT_EQ(Valeur("@12-max"), "15,0");
-    EXPECT_EQ(Valeur("@12-mina"), "2004");
-    EXPECT_EQ(Valeur("@p1-2a"), "22");
-    EXPECT_EQ(Valeur("@a1-2a"), "502");
+    // No letter: the crop.
+    EXPECT_EQ(Valeurs({"@12-3a", "@c12-10a", "@c12-i", "@12-u", "@12-max", "@12-mina", "@p1-2a",
+                       "@a1-2a"}),
+              (Textes{"13,0", "20,0", "marge", "€/ha", "15,0", "2004", "22", "502"}));
     ctx.etat.domaine.numModuleAnimal = 12;
     EXPECT_EQ(Valeur("@a1-2a"), "1 202");
     ctx.etat.domaine.numCulture = 4; // no such file
@@ -230,44 +199,24 @@ TEST_F(ValeurCodeArobase, LeCodeEstRaccourci) {
 }
 
 TEST_F(ValeurCodeArobase, FaitsDeLaCultureOuDuModule) {
-    EXPECT_EQ(Valeur("@c-c"), "ha");
-    EXPECT_EQ(Valeur("@-n"), "Blé tendre");
-    EXPECT_EQ(Valeur("@-pc"), "are");
-    EXPECT_EQ(Valeur("@-p"), "Pommiers");
-    EXPECT_EQ(Valeur("@-ac"), "");
-    EXPECT_EQ(Valeur("@-a"), "Brebis");
+    EXPECT_EQ(Valeurs({"@c-c", "@-n", "@-pc", "@-p", "@-ac", "@-a"}),
+              (Textes{"ha", "Blé tendre", "are", "Pommiers", "", "Brebis"}));
 }
 
 TEST_F(ValeurCodeArobase, CodesMalFormesNePlantentPas) {
-    for (const char* code : {"",
-                             "@",
-                             "@c",
-                             "@p",
-                             "@a",
-                             "@-",
-                             "@--",
-                             "+",
-                             "-",
-                             "+-",
-                             "-+",
-                             "VLVB.don+",
-                             "VLVB.don+-",
-                             "VLVB.don+VLVB--",
-                             "@99999999999999999999-3a",
-                             "@12-3",
-                             "@12-a",
-                             "@12-m",
-                             "@12-so",
-                             "VLVB.don+VLVB-1a",
-                             "VLVB.don+VLVB-a12",
-                             "VLVB.don+VLVB-\xFF\xFF"
-                             "12"}) {
+    auto essayer = [&](const char* code) {
         for (int pos : {-5, 0, 1, 2, 3, 30}) {
             Texte c = code;
             std::int16_t annee = -1, decimales = -1;
             ValeurCode(ctx, c, pos, annee, decimales, 0);
         }
-    }
+    };
+    for (const char* code : {"", "@", "@c", "@p", "@a", "@-", "@--", "+", "-", "+-", "-+",
+                             "VLVB.don+", "VLVB.don+-", "VLVB.don+VLVB--"})
+        essayer(code);
+    for (const char* code : {"@99999999999999999999-3a", "@12-3", "@12-a", "@12-m", "@12-so",
+                             "VLVB.don+VLVB-1a", "VLVB.don+VLVB-a12", "VLVB.don+VLVB-\377\37712"})
+        essayer(code);
     SUCCEED();
 }
 

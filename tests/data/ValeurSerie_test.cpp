@@ -7,42 +7,29 @@
 namespace verdane {
 namespace {
 
-using test_donnees::DossierTemporaire;
-using test_donnees::FauxUtilisateurDonnees;
 using test_donnees::FichierDon;
 using test_donnees::Serie;
 
-class ValeurSerieTest : public ::testing::Test {
+class ValeurSerieTest : public test_donnees::DossierFerme {
 protected:
-    ValeurSerieTest() : ctx(u) {
-        ctx.etat.RepDossier[0] = d.Chemin();
-        ctx.etat.NomDossier[0] = "Ferme";
+    ValeurSerieTest() {
         d.Ecrire("Ferme/vl.DON", FichierDon({Serie("VL-1:0", "  Vaches  ", 10), Serie("", ""),
                                              Serie("VL-3:0", std::string(1, '\0'))}));
         ctx.etat.domaine.numModuleAnimal = 7;
         d.Ecrire("Ferme/AL07AL.don", FichierDon({Serie("A-1:0", "Agneaux", 70)}));
     }
-    DossierTemporaire d;
-    FauxUtilisateurDonnees u;
-    Contexte ctx;
 };
 
-TEST_F(ValeurSerieTest, ValeurDeLAnnee) {
-    EXPECT_EQ(ValeurSerie(ctx, "VL-1", 3), 13.0f);
-    EXPECT_EQ(ValeurSerie(ctx, "VL-1", 13), 23.0f);
-    EXPECT_EQ(ValeurSerie(ctx, "VL-1", 14), 0.0f);
-    EXPECT_EQ(ValeurSerie(ctx, "VL-1", -1), 0.0f);
-    EXPECT_EQ(ValeurSerie(ctx, "VL-9", 3), 0.0f);
-    EXPECT_EQ(ValeurSerie(ctx, "XX-1", 3), 0.0f);
-    EXPECT_EQ(ValeurSerie(ctx, "AL-1", 2), 72.0f);
+TEST_F(ValeurSerieTest, ValeurDeLAnneeEtDecalage) {
+    // A year shift moves the index read, never before year 0.
+    const std::tuple<const char*, int, float> cas[] = {
+        {"VL-1", 3, 13},    {"VL-1", 13, 23},  {"VL-1", 14, 0}, {"VL-1", -1, 0},
+        {"VL-9", 3, 0},     {"XX-1", 3, 0},    {"AL-1", 2, 72}, {"VL-1!A-1", 3, 12},
+        {"VL-1!A5", 3, 15}, {"VL-1!A-1", 0, 0}};
+    for (const auto& [code, annee, valeur] : cas)
+        EXPECT_EQ(ValeurSerie(ctx, code, annee), valeur) << code << " " << annee;
     EXPECT_TRUE(u.messages.empty());
-}
 
-TEST_F(ValeurSerieTest, DecalageDAnnee) {
-    EXPECT_EQ(ValeurSerie(ctx, "VL-1!A-1", 3), 12.0f);
-    EXPECT_EQ(ValeurSerie(ctx, "VL-1!A5", 3), 15.0f);
-    EXPECT_EQ(ValeurSerie(ctx, "VL-1!A-1", 0), 0.0f);
-    EXPECT_TRUE(u.messages.empty());
     EXPECT_EQ(ValeurSerie(ctx, "VL-1!A-1", 3, true), 0.0f);
     ASSERT_EQ(u.messages.size(), 1u);
     EXPECT_EQ(u.messages[0].texte,
@@ -65,14 +52,13 @@ TEST_F(ValeurSerieTest, SansDossier) {
 }
 
 TEST_F(ValeurSerieTest, Libelle) {
-    EXPECT_EQ(LibelleSerie(ctx, "VL-1"), "Vaches");
-    EXPECT_EQ(LibelleSerie(ctx, "VL-1!A-1"), "Vaches");
-    EXPECT_EQ(LibelleSerie(ctx, "AL-1"), "Agneaux");
-    EXPECT_EQ(LibelleSerie(ctx, "VL-2"), "Enregistrement n°2 de VL");
-    EXPECT_EQ(LibelleSerie(ctx, "VL-3"), "Enregistrement n°3 de VL");
-    EXPECT_EQ(LibelleSerie(ctx, "VL-4"), "Enregistrement n°4 de VL");
-    EXPECT_EQ(LibelleSerie(ctx, "ABS-1"), "Enregistrement n°1 de ABS");
-    EXPECT_EQ(LibelleSerie(ctx, "VL"), "Enregistrement n°0 de VL");
+    std::vector<Texte> libelles;
+    for (const char* code : {"VL-1", "VL-1!A-1", "AL-1", "VL-2", "VL-3", "VL-4", "ABS-1", "VL"})
+        libelles.push_back(LibelleSerie(ctx, code));
+    EXPECT_EQ(libelles,
+              (std::vector<Texte>{"Vaches", "Vaches", "Agneaux", "Enregistrement n°2 de VL",
+                                  "Enregistrement n°3 de VL", "Enregistrement n°4 de VL",
+                                  "Enregistrement n°1 de ABS", "Enregistrement n°0 de VL"}));
 }
 
 } // namespace

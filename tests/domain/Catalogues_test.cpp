@@ -22,13 +22,13 @@ TEST(Catalogues, ElementsEtNumerotation) {
     const auto* femelles = Trouver(CatalogueAnimaux(), "femelles");
     ASSERT_NE(femelles, nullptr);
     EXPECT_EQ(femelles->enfants.front().libelle, "Achat ani. 1");
-    EXPECT_EQ(femelles->enfants.front().cle, "@56");
-    EXPECT_EQ(femelles->enfants[9].cle, "@65");
-    EXPECT_EQ(femelles->enfants.back().cle, "@81");
-    EXPECT_EQ(Trouver(CatalogueAnimaux(), "venteprod")->enfants.back().cle, "@315");
+    EXPECT_EQ((std::vector<Texte>{femelles->enfants.front().cle, femelles->enfants[9].cle,
+                                  femelles->enfants.back().cle,
+                                  Trouver(CatalogueAnimaux(), "venteprod")->enfants.back().cle,
+                                  Trouver(CataloguePerennes(), "CHtransfo")->enfants[2].cle}),
+              (std::vector<Texte>{"@56", "@65", "@81", "@315", "@78x86/100/46t"}));
     EXPECT_EQ(Trouver(CatalogueAnimaux(), "consomales")->enfants[1].libelle,
               "Aliments - 1 an (kg)");
-    EXPECT_EQ(Trouver(CataloguePerennes(), "CHtransfo")->enfants[2].cle, "@78x86/100/46t");
 }
 
 TEST(Catalogues, ArbreAvecClesUniques) {

@@ -4,9 +4,11 @@
 #include "data/EnrDon.h"
 #include "domain/EnrCultures.h"
 #include "domain/EnrInvest.h"
+#include "domain/TabsImmoEmpr.h"
 #include "shell/etat/Contexte.h"
 #include "support/DossierTemporaire.h"
 #include "support/FauxUtilisateur.h"
+#include "support/Morceaux.h"
 
 #include <gtest/gtest.h>
 
@@ -92,11 +94,9 @@ protected:
         return p;
     }
 
-    // Occurrences of `motif` in `texte`.
-    static int Compter(const std::string& texte, const std::string& motif) {
-        int n = 0;
-        for (auto p = texte.find(motif); p != std::string::npos; p = texte.find(motif, p + 1)) ++n;
-        return n;
+    // An investment table (immobilisations, subsidies, loans, plans) as a model's line asks it.
+    std::string Rendre(const std::string& code) {
+        return TableauImemp(ctx, code, "\\plain \\trowd\\trgaph120\\trrh280\\trleft0");
     }
 
     DossierTemporaire d;

@@ -2,12 +2,12 @@
 // whole document written to the build folder and, when LibreOffice is there, turned to PDF.
 
 #include "data/ChargerDossier.h"
-#include "domain/FichiersDomaine.h"
 #include "domain/GestEPICerfa.h"
 #include "engine/CreationDoc.h"
 #include "shell/etat/Contexte.h"
 #include "support/DossierTemporaire.h"
 #include "support/FauxUtilisateur.h"
+#include "support/Morceaux.h"
 #include "utils/Chaines.h"
 #include "utils/OutilsFichiers.h"
 
@@ -16,18 +16,11 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <set>
 
 namespace verdane {
 namespace {
 
 const std::string kMarlo = std::string(VERDANE_SOURCE_DIR) + "/samples/marlo/";
-
-std::size_t Compter(const Texte& t, const Texte& mot) {
-    std::size_t n = 0;
-    for (auto p = t.find(mot); p != Texte::npos; p = t.find(mot, p + 1)) ++n;
-    return n;
-}
 
 class EchantillonsPDETest : public ::testing::Test {
 protected:
@@ -50,54 +43,28 @@ protected:
     Contexte ctx;
 };
 
-TEST_F(EchantillonsPDETest, DossierDExempleComplet) {
-    LireFichiersInvest(ctx);
-    const auto& d = ctx.etat.domaine;
-    int anciennes = 0, bonifies = 0, aCent = 0;
-    for (const auto& i : d.immobilisations) anciennes += i.nouvelle == 0;
-    for (const auto& e : d.emprunts) bonifies += e.bonifie == -1;
-    for (int p = 0; p < d.nbPlans; ++p)
-        aCent += d.plans[static_cast<std::size_t>(p)].pourcentage >= 100;
-    EXPECT_GT(anciennes, 0);
-    EXPECT_LT(anciennes, static_cast<int>(d.immobilisations.size()));
-    EXPECT_FALSE(d.subventions.empty());
-    EXPECT_GE(bonifies, 1);
-    EXPECT_EQ(d.nbPlans, 3);
-    EXPECT_EQ(aCent, 1);
-    std::set<int> genres;
-    for (const auto& c : LireCultures(ctx.etat)) genres.insert(c.genre);
-    EXPECT_EQ(genres, (std::set<int>{1, 2, 3, 4}));
-    EXPECT_EQ(LireCulturesPerennes(ctx.etat).size(), 2u);
-    const auto modules = LireModulesAnimaux(ctx.etat);
-    ASSERT_EQ(modules.size(), 3u);
-    EXPECT_FALSE(modules[1].actif);
-}
-
 TEST_F(EchantillonsPDETest, PagesDuPDE) {
     for (int i = 0; i <= 15; ++i)
         EXPECT_TRUE(FichierExiste(kMarlo + "Verdane/ModlDocs/" +
                                   RemplacerExact(ModelePDE(i, false), "\\", "/")))
             << i;
-    const Texte p8 = Rendre("PDE/PDE8.vdm");
-    EXPECT_NE(p8.find("Pr\xEAts bonifi\xE9s - MTS-JA"), Texte::npos);
-    EXPECT_NE(p8.find(" BAT1}\\cell"), Texte::npos);
-    EXPECT_NE(p8.find(" totaux B\xE2timent d'\xE9levage}\\cell"), Texte::npos);
-    EXPECT_NE(p8.find(" Reprise du cheptel}\\cell"), Texte::npos);
-    const Texte p9 = Rendre("PDE/PDE9.vdm");
-    EXPECT_NE(p9.find(" Pr\xEAt cheptel JA}\\cell"), Texte::npos);
-    EXPECT_NE(p9.find(" TOTAL GENERAL}\\cell"), Texte::npos);
+    EXPECT_TRUE(
+        test::Contient(Rendre("PDE/PDE8.vdm"),
+                       {"Pr\xEAts bonifi\xE9s - MTS-JA", " BAT1}\\cell",
+                        " totaux B\xE2timent d'\xE9levage}\\cell", " Reprise du cheptel}\\cell"}));
+    EXPECT_TRUE(test::Contient(Rendre("PDE/PDE9.vdm"),
+                               {" Pr\xEAt cheptel JA}\\cell", " TOTAL GENERAL}\\cell"}));
+    // The sample's inactive animal module stays out.
     const Texte p2 = Rendre("PDE/PDE2.vdm");
-    EXPECT_NE(p2.find(" Ovins viande}\\cell"), Texte::npos);
-    EXPECT_NE(p2.find(" Poules pondeuses}\\cell"), Texte::npos);
-    EXPECT_EQ(p2.find("Porcs plein air"), Texte::npos);
-    EXPECT_NE(p2.find(" Bl\xE9 tendre}\\cell"), Texte::npos);
-    const Texte p3 = Rendre("PDE/PDE3.vdm");
-    EXPECT_NE(p3.find(" Cultures de vente}\\cell"), Texte::npos);
-    EXPECT_NE(p3.find(" Vigne AOC Coteaux du Layon}\\cell"), Texte::npos);
+    EXPECT_TRUE(test::Contient(
+        p2, {" Ovins viande}\\cell", " Poules pondeuses}\\cell", " Bl\xE9 tendre}\\cell"}));
+    EXPECT_TRUE(test::Exclut(p2, {"Porcs plein air"}));
+    EXPECT_TRUE(test::Contient(Rendre("PDE/PDE3.vdm"), {" Cultures de vente}\\cell",
+                                                        " Vigne AOC Coteaux du Layon}\\cell"}));
     EXPECT_TRUE(u.messages.empty()) << u.ToutCeQuiAEteDit();
 
     const Texte tout = Rendre("PDE/PDECerfasoc.vdm");
-    EXPECT_EQ(Compter(tout, "\\sect "), 14u);
+    EXPECT_EQ(test::Compter(tout, "\\sect "), 14);
     const std::filesystem::path sortie = std::filesystem::path(VERDANE_BIN_DIR) / "pde";
     std::filesystem::create_directories(sortie);
     std::ofstream(sortie / "PDECerfa.rtf", std::ios::binary) << tout;
@@ -112,13 +79,10 @@ TEST_F(EchantillonsPDETest, PagesDuPDE) {
 
 TEST_F(EchantillonsPDETest, ModeleDesTablesDuDomaine) {
     const Texte doc = Rendre("domaine.vdm");
-    EXPECT_NE(doc.find("Immobilisations anciennes"), Texte::npos);
-    EXPECT_NE(doc.find(" stabulation libre log.}\\cell"), Texte::npos);
-    EXPECT_NE(doc.find(" Cult. fourragères}\\cell"), Texte::npos);
-    EXPECT_NE(doc.find("Culture fourragère dérobée"), Texte::npos);
-    EXPECT_NE(doc.find("Caractéristiques :"), Texte::npos);
-    EXPECT_NE(doc.find("\\b 4-8\\par"), Texte::npos);
-    EXPECT_NE(doc.find("Autofinancement}\\cell"), Texte::npos);
+    EXPECT_TRUE(
+        test::Contient(doc, {"Immobilisations anciennes", " stabulation libre log.}\\cell",
+                             " Cult. fourragères}\\cell", "Culture fourragère dérobée",
+                             "Caractéristiques :", "\\b 4-8\\par", "Autofinancement}\\cell"}));
     const std::filesystem::path sortie = std::filesystem::path(VERDANE_BIN_DIR) / "pde";
     std::filesystem::create_directories(sortie);
     std::ofstream(sortie / "domaine.rtf", std::ios::binary) << doc;
@@ -135,8 +99,8 @@ TEST_F(EchantillonsPDETest, SocieteSansListes) {
     EXPECT_TRUE(u.questions.empty());
     const Texte p8 = Rendre("PDE/PDE8.vdm");
     EXPECT_FALSE(std::filesystem::exists(copie.Systeme() / "GAEC/PlanF.fin"));
-    EXPECT_NE(p8.find(" Volume total des investissements}\\cell"), Texte::npos);
-    EXPECT_EQ(p8.find("BAT1"), Texte::npos);
+    EXPECT_TRUE(test::Contient(p8, {" Volume total des investissements}\\cell"}));
+    EXPECT_TRUE(test::Exclut(p8, {"BAT1"}));
     EXPECT_NE(Rendre("PDE/PDE9.vdm").find(" TOTAL GENERAL}\\cell"), Texte::npos);
 }
 

@@ -23,8 +23,8 @@ TEST(FabriqueDomaine, PlansEmpruntsEtCultures) {
     std::array<EnrPlan, EnrPlan::kNbPlans> lus{};
     EXPECT_EQ(LirePlans(plans->octets, lus), 3);
     EXPECT_EQ(lus[2].libelle, "Hangar [H1]");
-    EXPECT_EQ(lus[2].montantDirect, 12.5f);
-    EXPECT_EQ(lus[2].numero, 3.0f);
+    EXPECT_EQ((std::vector<float>{lus[2].montantDirect, lus[2].numero}),
+              (std::vector<float>{12.5f, 3}));
 
     const auto emprunts = fabrique::Fabriquer(
         "Emprunt.emp.txt", "[1]\nlibelle=Prêt\nbonifie=-1\nplan=2\nannuite=0;10;20\n[2]\n", "");
@@ -32,9 +32,8 @@ TEST(FabriqueDomaine, PlansEmpruntsEtCultures) {
     ASSERT_EQ(emprunts->octets.size(), 2u * 1096u);
     const EnrEmprunt e = LireEnrEmprunt(emprunts->octets);
     EXPECT_EQ(e.libelle.substr(0, 4), "Prêt");
-    EXPECT_EQ(e.bonifie, -1);
-    EXPECT_EQ(e.numPlan, 2);
-    EXPECT_EQ(e.annuite[2], 20.0f);
+    EXPECT_EQ((std::vector<float>{float(e.bonifie), float(e.numPlan), e.annuite[2]}),
+              (std::vector<float>{-1, 2, 20}));
 
     const auto cultures =
         fabrique::Fabriquer("cult.clt.txt", "[a]\ngenre=3\nassolement=1;2;3\n", "");

@@ -40,24 +40,19 @@ protected:
 TEST_F(RenduDomaineTest, LignesParCultureDansUnTableau) {
     const std::string rtf = GenererTableau(ctx, "tabp1;larg2000;larg4000(" +
                                                     L("Surfaces", "cultu:assolement:0:0") + ")");
-    EXPECT_NE(rtf.find(" Blé tendre}"), std::string::npos);
-    EXPECT_NE(rtf.find(" Prairie}"), std::string::npos);
-    EXPECT_NE(rtf.find(" Cultures de vente}"), std::string::npos);
-    EXPECT_NE(rtf.find(" 45}\\cell"), std::string::npos);
+    EXPECT_TRUE(Contient(rtf, {" Blé tendre}", " Prairie}", " Cultures de vente}", " 45}\\cell"}));
     EXPECT_EQ(Compter(rtf, "\\row"), 5);
 }
 
 TEST_F(RenduDomaineTest, TableauRepeteParCultureAvecSesValeurs) {
     const std::string rtf = TableauCultures(ctx, "culture2tabp1;larg2000;larg4000(" +
                                                      L("Marge", "scult:@14:0:0") + ")");
-    EXPECT_NE(rtf.find("ACTIVITE :}\\cell"), std::string::npos);
-    EXPECT_NE(rtf.find(" 650}\\cell"), std::string::npos);
-    EXPECT_NE(rtf.find(" -130}\\cell"), std::string::npos);
+    EXPECT_TRUE(Contient(rtf, {"ACTIVITE :}\\cell", " 650}\\cell", " -130}\\cell"}));
     // The fourragère's margin is a net cost; header form 2 keeps the line's label otherwise.
     const auto prairie = rtf.find(" Prairie}");
     EXPECT_LT(rtf.find(" Marge}"), prairie);
-    EXPECT_NE(rtf.find(" Coût net op.}", prairie), std::string::npos);
-    EXPECT_EQ(rtf.find(" Marge}", prairie), std::string::npos);
+    EXPECT_TRUE(Contient(rtf.substr(prairie), {" Coût net op.}"}));
+    EXPECT_TRUE(Exclut(rtf.substr(prairie), {" Marge}"}));
     EXPECT_EQ(CodeCoutNetOp("tab([1;2][A;f][scult:@145;f]#[1;2][B;f][scult:@15:0;f])"),
               "tab([1;2][A;f][scult:@145;f]#[1;2][Coût_net_op.;f][scult:@15:0;f])");
     EXPECT_EQ(CodeCoutNetOp("tab([scult:@14]"), "tab([scult:@14]");
@@ -70,15 +65,12 @@ TEST_F(RenduDomaineTest, ActivitesEtInvestissements) {
     Don("AL01AL.don", {{159, {0, 35.5f, 36}}});
     const std::string rtf = TableauActivites(ctx, "actlibr0tabp1;larg2000;larg4000(" +
                                                       L("UGB", "ALani:@159:1:0") + ")");
-    EXPECT_NE(rtf.find(" 35,5}\\cell"), std::string::npos);
-    EXPECT_NE(rtf.find(" 36,0}\\cell"), std::string::npos);
+    EXPECT_TRUE(Contient(rtf, {" 35,5}\\cell", " 36,0}\\cell"}));
 
     Immos({Immo("Tracteur", 50000, 1)});
     const std::string immo =
         GenererTableau(ctx, "tabp1;larg2000;larg4000(" + L("", "imemp:immo0:0") + ")");
-    EXPECT_NE(immo.find(" tracteur }\\cell"), std::string::npos);
-    EXPECT_NE(immo.find(" 50 000}\\cell"), std::string::npos);
-    EXPECT_NE(immo.find("\\trgaph5"), std::string::npos);
+    EXPECT_TRUE(Contient(immo, {" tracteur }\\cell", " 50 000}\\cell", "\\trgaph5"}));
 }
 
 } // namespace

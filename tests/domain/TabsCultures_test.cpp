@@ -39,45 +39,31 @@ TEST_F(TabsCulturesTest, AssolementParGroupesAvecTotaux) {
               Culture("Orge", 2, 3, 10), Culture("Inconnue", 7, 4, 99), EnrCulture{},
               Culture("Après la fin", 1, 5, 1000)});
     const std::string rtf = Lignes();
-    const auto ble = rtf.find(" Blé}"), orge = rtf.find(" Orge}"),
-               vente = rtf.find(" Cultures de vente}");
-    const auto mais = rtf.find(" Maïs ensilage}"), fourr = rtf.find(" Cult. fourragères}");
-    const auto marai = rtf.find(" Cult. maraîchères}");
-    ASSERT_NE(marai, std::string::npos);
-    EXPECT_LT(ble, orge);
-    EXPECT_LT(orge, vente);
-    EXPECT_LT(vente, mais);
-    EXPECT_LT(mais, fourr);
-    EXPECT_LT(fourr, marai);
-    EXPECT_EQ(rtf.find("Inconnue"), std::string::npos);
-    EXPECT_EQ(rtf.find("Après"), std::string::npos);
-    // Years 1 to 3 of the sums: vente 31+11, 32+12, 33+13 at one decimal, in bold.
-    EXPECT_NE(rtf.find("\\b 42,0}\\cell"), std::string::npos);
-    EXPECT_NE(rtf.find("\\b 46,0}\\cell"), std::string::npos);
-    EXPECT_NE(rtf.find(" 21,0}\\cell"), std::string::npos);
-    EXPECT_EQ(rtf.find(" 20,0}"), std::string::npos); // year 0 isn't shown
+    EXPECT_TRUE(DansLOrdre(rtf, {" Blé}", " Orge}", " Cultures de vente}", " Maïs ensilage}",
+                                 " Cult. fourragères}", " Cult. maraîchères}"}));
+    // Years 1 to 3 of the sums: vente 31+11, 32+12, 33+13 at one decimal, in bold; year 0
+    // isn't shown.
+    EXPECT_TRUE(
+        Contient(rtf, {"\\b 42,0}\\cell", "\\b 46,0}\\cell", " 21,0}\\cell", "\\cellx8000"}));
+    EXPECT_TRUE(Exclut(rtf, {"Inconnue", "Après", " 20,0}"}));
     EXPECT_EQ(Compter(rtf, "\\cellx"), 6 * 4);
-    EXPECT_NE(rtf.find("\\cellx8000"), std::string::npos);
     EXPECT_EQ(SerieCultureParNom(ctx.etat.domaine, "totalvente", 2), 44.0f);
     EXPECT_EQ(SerieCultureParNom(ctx.etat.domaine, "TotalMarai:1", 1), 0.0f);
 }
 
 TEST_F(TabsCulturesTest, SeulementFourrageresEtSansAssol) {
     Cultures({Culture("Prairie", 3, 1, 5)});
-    std::string rtf = Lignes();
-    EXPECT_NE(rtf.find(" Cultures de vente}"), std::string::npos);
-    EXPECT_NE(rtf.find(" Cult. maraîchères}"), std::string::npos);
     // The sale total is 0: an empty cell.
-    EXPECT_NE(rtf.find("Cultures de vente}\\cell\\ql\\intbl\\clvertalb{\\fs20\\f5006\\cf1\\b  }"),
-              std::string::npos);
+    std::string rtf = Lignes();
+    EXPECT_TRUE(
+        Contient(rtf, {"Cultures de vente}\\cell\\ql\\intbl\\clvertalb{\\fs20\\f5006\\cf1\\b  }",
+                       " Cult. maraîchères}"}));
     Definition("cultu:rendement:0");
     rtf = Lignes();
     EXPECT_EQ(rtf.find("Cultures de vente"), std::string::npos);
     EXPECT_EQ(Compter(rtf, "\\row"), 1);
     d.Ecrire("Ferme/cult.clt", "");
-    EXPECT_EQ(Lignes(), "");
-    EXPECT_EQ(LignesCultures(ctx, 2, ""), "");
-    EXPECT_EQ(LignesCultures(ctx, 0, ""), "");
+    EXPECT_EQ(Lignes() + LignesCultures(ctx, 2, "") + LignesCultures(ctx, 0, ""), "");
 }
 
 TEST_F(TabsCulturesTest, ListeAbsenteSansLigneNiTotal) {
@@ -102,24 +88,19 @@ TEST_F(TabsCulturesTest, CodesArobaseEtComposites) {
                       {5, {0, 4}},
                       {6, {0, 10}}});
     Don("Cult7t.don", {{46, {0, 4}}, {70, {0, 10}}});
-    auto v = [&](const char* c, int annee = 1) {
-        return NombreArobaseCulture(ctx.etat, c, annee, false);
+    auto valeurs = [&](std::initializer_list<const char*> codes) {
+        std::vector<float> v;
+        for (const char* c : codes) v.push_back(NombreArobaseCulture(ctx.etat, c, 1, false));
+        return v;
     };
-    EXPECT_EQ(v("15+16+17/1"), 3.0f);
-    EXPECT_EQ(v("@15+16+17/1:2"), 3.0f);
-    EXPECT_EQ(v("15+16+17/1", 3), 0.0f); // division by a zero surface
-    EXPECT_EQ(v("82a-1", 1), 7.0f);
-    EXPECT_EQ(v("82a-1", 0), 0.0f);
-    EXPECT_EQ(v("6-5"), 6.0f);
-    EXPECT_EQ(v("70/46t"), 2.5f);
-    EXPECT_EQ(v("70t"), 10.0f);
-    EXPECT_EQ(v("18"), 1.5f); // kind 2 reads record 19
+    // Kind 2 reads record 19 for 18, kind 1 record 17.
+    EXPECT_EQ(valeurs({"15+16+17/1", "@15+16+17/1:2", "82a-1", "6-5", "70/46t", "70t", "18"}),
+              (std::vector<float>{3, 3, 7, 6, 2.5f, 10, 1.5f}));
+    EXPECT_EQ(NombreArobaseCulture(ctx.etat, "15+16+17/1", 3, false), 0.0f); // a zero surface
+    EXPECT_EQ(NombreArobaseCulture(ctx.etat, "82a-1", 0, false), 0.0f);
     ctx.etat.domaine.cultureCourante.genre = 1;
-    EXPECT_EQ(v("18"), 15.0f); // kind 1 reads record 17
-    EXPECT_EQ(v("19"), 3.0f);
-    EXPECT_EQ(v("17"), 15.0f);
-    EXPECT_EQ(v("n'importe quoi"), 0.0f);
-    EXPECT_EQ(v("999"), 0.0f);
+    EXPECT_EQ(valeurs({"18", "19", "17", "n'importe quoi", "999"}),
+              (std::vector<float>{15, 3, 15, 0, 0}));
     EXPECT_EQ(ValeurArobaseCulture(ctx, "16:2", 1, false), "10,00");
     EXPECT_EQ(ValeurArobaseCulture(ctx, "16", 1, false), "10");
     ctx.etat.domaine.numCulturePerenne = 2;
@@ -160,21 +141,17 @@ TEST_F(TabsCulturesTest, TableauRepeteParCulture) {
     };
     const std::string rtf = TableauCultures(ctx, "culture13tab(x)", rendu);
     EXPECT_EQ(vus, (std::vector<std::string>{"Blé|culture13tab(x)", "Chou|culture13tab(x)"}));
-    EXPECT_NE(rtf.find("\\qr\\fs20\\cf2\\b 3-1\\par \\plain "), std::string::npos);
-    EXPECT_NE(rtf.find("\\qr\\fs20\\cf2\\b 3-2\\par \\plain "), std::string::npos);
-    EXPECT_NE(rtf.find("\\b     Blé" + std::string(50, ' ') + "Culture de vente principale\\par"),
-              std::string::npos);
-    EXPECT_NE(rtf.find("Unité : qx/ha"), std::string::npos);
-    EXPECT_NE(rtf.find("Valeur stock : 1 234 €"), std::string::npos);
-    EXPECT_NE(rtf.find("Valeur stock :  €"), std::string::npos); // Cult5.don missing
-    EXPECT_NE(rtf.find("Cult. maraîchère"), std::string::npos);
-    vus.clear();
+    // Cult5.don is missing: no stock value.
+    const std::string entete =
+        "\\b     Blé" + std::string(50, ' ') + "Culture de vente principale\\par";
+    EXPECT_TRUE(Contient(rtf, {"\\qr\\fs20\\cf2\\b 3-1\\par \\plain ",
+                               "\\qr\\fs20\\cf2\\b 3-2\\par \\plain ", entete, "Unité : qx/ha",
+                               "Valeur stock : 1 234 €", "Valeur stock :  €", "Cult. maraîchère"}));
     const std::string bande = TableauCultures(ctx, "culture2tab(x)", rendu);
-    EXPECT_EQ(bande.find("3-"), std::string::npos);
-    EXPECT_NE(bande.find("\\cellx1500 "), std::string::npos);
-    EXPECT_NE(bande.find("\\b ACTIVITE :}\\cell\\ql\\intbl\\clvertalb{\\fs20\\cf2 "
-                         "Chou}\\cell\\row\\pard\\plain "),
-              std::string::npos);
+    EXPECT_TRUE(Exclut(bande, {"3-"}));
+    EXPECT_TRUE(
+        Contient(bande, {"\\cellx1500 ", "\\b ACTIVITE :}\\cell\\ql\\intbl\\clvertalb{\\fs20\\cf2 "
+                                         "Chou}\\cell\\row\\pard\\plain "}));
     EXPECT_EQ(TableauCultures(ctx, "culture0tab(x)", rendu), "[table][table]");
 }
 
@@ -196,9 +173,8 @@ TEST_F(TabsCulturesTest, PerennesSansDonneesSautees) {
         return Texte(c.etat.domaine.libelleCulturePerenne);
     });
     EXPECT_EQ(fois, 1);
-    EXPECT_NE(rtf.find("Caractéristiques :"), std::string::npos);
-    EXPECT_NE(rtf.find("Pleine production : 4 ans"), std::string::npos);
-    EXPECT_NE(rtf.find("Durée d'amortissement : 25 ans\\par\\plain "), std::string::npos);
+    EXPECT_TRUE(Contient(rtf, {"Caractéristiques :", "Pleine production : 4 ans",
+                               "Durée d'amortissement : 25 ans\\par\\plain "}));
     ctx.etat.domaine.ignorerPerennesVides = false;
     fois = 0;
     TableauCultures(ctx, "cultper1tab(x)",
@@ -218,9 +194,9 @@ TEST_F(DossierDomaine, ActivitesAnimales) {
             return Texte();
         });
     EXPECT_EQ(vus, std::vector<std::string>{"12,5|13"});
-    EXPECT_NE(rtf.find("\\b 5-1\\par \\plain "), std::string::npos);
-    EXPECT_NE(rtf.find("\\ql\\fs28\\cf1\\b\\ul Porcs plein air\\par \\plain \\par \\plain "),
-              std::string::npos);
+    EXPECT_TRUE(
+        Contient(rtf, {"\\b 5-1\\par \\plain ",
+                       "\\ql\\fs28\\cf1\\b\\ul Porcs plein air\\par \\plain \\par \\plain "}));
     EXPECT_TRUE(u.messages.empty());
 
     ctx.etat.domaine.numModuleAnimal = 12;

@@ -22,22 +22,30 @@ protected:
             b.push_back(std::stoi((*it)[1]));
         return b;
     }
-    std::string Rendre(const std::string& code) {
-        return TableauImemp(ctx, code, "\\plain \\trowd\\trgaph120\\trrh280\\trleft0");
-    }
 };
 
-TEST(CadreDomaine, Durees) {
-    EXPECT_EQ(TexteDuree(18, false, 0), "1 an 6 mois");
-    EXPECT_EQ(TexteDuree(24, false, 0), "2 ans");
-    EXPECT_EQ(TexteDuree(6, false, 0), " 6 mois");
-    EXPECT_EQ(TexteDuree(0, false, 0), "");
-    EXPECT_EQ(TexteDuree(40, true, 3), "40 trimestre");
-    EXPECT_EQ(TexteDuree(1, true, 12), "1 ans");
-    EXPECT_EQ(TexteDuree(7, true, 5), "7 mois");
-    EXPECT_EQ(TexteDuree(0, true, 3), "");
-    EXPECT_EQ(TexteDuree(std::numeric_limits<float>::quiet_NaN(), false, 0), "");
-    EXPECT_EQ(TexteDuree(1e30f, true, 2), "");
+TEST(CadreDomaine, DureesEtLibellesDeListe) {
+    const float nan = std::numeric_limits<float>::quiet_NaN();
+    const std::tuple<float, bool, float, const char*> durees[] = {
+        {18, false, 0, "1 an 6 mois"}, {24, false, 0, "2 ans"},
+        {6, false, 0, " 6 mois"},      {0, false, 0, ""},
+        {40, true, 3, "40 trimestre"}, {1, true, 12, "1 ans"},
+        {7, true, 5, "7 mois"},        {0, true, 3, ""},
+        {nan, false, 0, ""},           {1e30f, true, 2, ""}};
+    for (const auto& [duree, emprunt, periode, texte] : durees)
+        EXPECT_EQ(TexteDuree(duree, emprunt, periode), texte) << duree << " " << periode;
+
+    const std::tuple<const char*, int, const char*> libelles[] = {
+        {"  STABULATION  ", 21, "stabulation "},
+        {"abcdefghijklmnopqrstuv", 21, "abcdefghijklmnopqrstuv "},
+        {"abcdefghijklmnopqrstuvw", 21, "abcdefghijklmnopqrstu."},
+        {"abcdefghijklmnopqrst uvw", 21, "abcdefghijklmnopqrst "},
+        {"abcdefghijklmnopqrstuvw", 22, "abcdefghijklmnopqrstuv."},
+        {"ÉTABLE À VEAUX ÇÀ ET LÀ ÊÔ", 21, "étable à veaux çà et "}};
+    for (const auto& [libelle, largeur, texte] : libelles)
+        EXPECT_EQ(LibelleListe(libelle, largeur), texte) << libelle;
+    EXPECT_EQ(DateCourte("15/03/2024"), "15/03/24");
+    EXPECT_EQ(DateCourte(" **/**/**** "), "**/**/****");
 }
 
 TEST(CadreDomaine, CelluleEtRegleDeFin) {
@@ -56,40 +64,21 @@ TEST(CadreDomaine, CelluleEtRegleDeFin) {
     EXPECT_EQ(c.police, "5006"); // written back
     const Texte fin = FinDeTableau(etat, 6800);
     EXPECT_EQ(fin.rfind("\\trowd\\trgaph5\\trrh50\\trqc", 0), 0u);
-    EXPECT_NE(fin.find("\\cellx6800"), Texte::npos);
-    EXPECT_NE(fin.find("\\cellx9500"), Texte::npos);
-    EXPECT_EQ(FinDeTableau(etat, 9500).find("\\cellx6800"), Texte::npos);
-    EXPECT_EQ(DateCourte("15/03/2024"), "15/03/24");
-    EXPECT_EQ(DateCourte(" **/**/**** "), "**/**/****");
-}
-
-TEST(CadreDomaine, LibellesDeListe) {
-    EXPECT_EQ(LibelleListe("  STABULATION  ", 21), "stabulation ");
-    EXPECT_EQ(LibelleListe("abcdefghijklmnopqrstuv", 21), "abcdefghijklmnopqrstuv ");
-    EXPECT_EQ(LibelleListe("abcdefghijklmnopqrstuvw", 21), "abcdefghijklmnopqrstu.");
-    EXPECT_EQ(LibelleListe("abcdefghijklmnopqrst uvw", 21), "abcdefghijklmnopqrst ");
-    EXPECT_EQ(LibelleListe("abcdefghijklmnopqrstuvw", 22), "abcdefghijklmnopqrstuv.");
-    EXPECT_EQ(LibelleListe("ÉTABLE À VEAUX ÇÀ ET LÀ ÊÔ", 21), "étable à veaux çà et ");
+    EXPECT_TRUE(Contient(fin, {"\\cellx6800", "\\cellx9500"}));
+    EXPECT_TRUE(Exclut(FinDeTableau(etat, 9500), {"\\cellx6800"}));
 }
 
 TEST_F(TabsImmoEmprTest, ListeVideTitresEtRegle) {
     const std::string rtf = Rendre("imemp:immo2");
-    const auto anciennes =
-        rtf.find("\\ql\\fs20\\cf4\\b\\i\\ul Immobilisations anciennes\\par \\plain ");
-    const auto nouvelles =
-        rtf.find("\\ql\\fs20\\cf4\\b\\i\\ul Immobilisations nouvelles\\par \\plain ");
-    ASSERT_NE(anciennes, std::string::npos);
-    ASSERT_NE(nouvelles, std::string::npos);
-    EXPECT_LT(anciennes, nouvelles);
+    EXPECT_TRUE(
+        DansLOrdre(rtf, {"\\ql\\fs20\\cf4\\b\\i\\ul Immobilisations anciennes\\par \\plain ",
+                         "\\ql\\fs20\\cf4\\b\\i\\ul Immobilisations nouvelles\\par \\plain "}));
     EXPECT_EQ(Bords(rtf),
               (std::vector<int>{1500, 2400, 3300, 4000, 4700, 5500, 6100, 6900, 7800, 8700, 9500}));
-    EXPECT_NE(rtf.find("\\trgaph5\\trrh280"), std::string::npos);
-    EXPECT_EQ(rtf.find("\\trgaph120"), std::string::npos);
-    EXPECT_NE(rtf.find("Date réalisat."), std::string::npos);
-    EXPECT_NE(rtf.find("\\trowd\\trgaph5\\trrh50\\trqc"), std::string::npos);
-    EXPECT_EQ(Rendre("imemp"), "");
-    EXPECT_EQ(Rendre("imemp:xxxxx"), "");
-    EXPECT_EQ(Rendre("imemp:"), "");
+    EXPECT_TRUE(
+        Contient(rtf, {"\\trgaph5\\trrh280", "Date réalisat.", "\\trowd\\trgaph5\\trrh50\\trqc"}));
+    EXPECT_TRUE(Exclut(rtf, {"\\trgaph120"}));
+    for (const char* code : {"imemp", "imemp:xxxxx", "imemp:"}) EXPECT_EQ(Rendre(code), "") << code;
 }
 
 TEST_F(TabsImmoEmprTest, ImmobilisationsParGroupe) {
@@ -104,33 +93,24 @@ TEST_F(TabsImmoEmprTest, ImmobilisationsParGroupe) {
     neuve.amortissement = 9;
     neuve.plusValue1 = 100;
     neuve.plusValue2 = 50;
-    EnrImmo autre = Immo("Bizarre", 1, 7);
-    Immos({vieille, neuve, autre});
+    Immos({vieille, neuve, Immo("Bizarre", 1, 7)});
     ctx.etat.tableaux.TableauxCourants.assign(1, TableauModele{});
     ctx.etat.tableaux.TableauxCourants[0].rouge = 1;
 
     const std::string nouvelles = Rendre("imemp:immo0:0");
-    EXPECT_NE(nouvelles.find("Immobilisations nouvelles\\par \\plain \\par \\plain "),
-              std::string::npos);
-    EXPECT_EQ(nouvelles.find("hangar"), std::string::npos);
-    EXPECT_NE(nouvelles.find(" salle de traite 2x8 a.}\\cell"), std::string::npos);
-    EXPECT_NE(nouvelles.find(" 98 765}\\cell"), std::string::npos);
-    EXPECT_NE(nouvelles.find(" D}\\cell"), std::string::npos);
-    EXPECT_NE(nouvelles.find(" 15}\\cell"), std::string::npos);
-    EXPECT_NE(nouvelles.find(" 150}\\cell"), std::string::npos);
-    EXPECT_NE(nouvelles.find(" 15/03/25}\\cell"), std::string::npos);
-    EXPECT_EQ(nouvelles.find("bizarre"), std::string::npos);
+    EXPECT_TRUE(
+        Contient(nouvelles, {"Immobilisations nouvelles\\par \\plain \\par \\plain ",
+                             " salle de traite 2x8 a.}\\cell", " 98 765}\\cell", " D}\\cell",
+                             " 15}\\cell", " 150}\\cell", " 15/03/25}\\cell"}));
+    EXPECT_TRUE(Exclut(nouvelles, {"hangar", "bizarre"}));
 
-    const std::string anciennes = Rendre("imemp:immo1:0");
-    EXPECT_NE(anciennes.find(" hangar }\\cell"), std::string::npos);
-    EXPECT_NE(anciennes.find(" F}\\cell"), std::string::npos);
-    EXPECT_NE(anciennes.find(" Dég.}\\cell"), std::string::npos);
     // LSM negative, red with the table's flag: colour 6 + 3.
-    EXPECT_NE(anciennes.find("\\cf9 -250}\\cell"), std::string::npos);
+    const std::string anciennes = Rendre("imemp:immo1:0");
+    EXPECT_TRUE(
+        Contient(anciennes, {" hangar }\\cell", " F}\\cell", " Dég.}\\cell", "\\cf9 -250}\\cell"}));
     // The title's paragraphs before the header, then one paragraph opening the group.
     EXPECT_EQ(Compter(anciennes, "\\par \\plain \\plain \\trowd"), 2);
-    const std::string tout = Rendre("imemp:immos");
-    EXPECT_LT(tout.find("hangar"), tout.find("salle"));
+    EXPECT_TRUE(DansLOrdre(Rendre("imemp:immos"), {"hangar", "salle"}));
 }
 
 TEST_F(TabsImmoEmprTest, SubventionsEtEmprunts) {
@@ -141,10 +121,8 @@ TEST_F(TabsImmoEmprTest, SubventionsEtEmprunts) {
     const std::string sub = Rendre("imemp:subv0:0");
     EXPECT_EQ(Bords(sub, sub.find("\\trowd")),
               (std::vector<int>{2200, 3100, 4200, 5100, 5800, 6800, 9500}));
-    EXPECT_NE(sub.find(" dja }\\cell"), std::string::npos);
-    EXPECT_NE(sub.find(" Lin.}\\cell"), std::string::npos);
-    EXPECT_NE(sub.find(" 01/01/2030}\\cell"), std::string::npos);
-    EXPECT_NE(sub.find(" }\\cell\\row"), std::string::npos);
+    EXPECT_TRUE(
+        Contient(sub, {" dja }\\cell", " Lin.}\\cell", " 01/01/2030}\\cell", " }\\cell\\row"}));
 
     EnrEmprunt e = Emprunt("Prêt bâtiment JA bonifié longue durée", 150000, 0);
     e.type = 1;
@@ -157,13 +135,9 @@ TEST_F(TabsImmoEmprTest, SubventionsEtEmprunts) {
               (std::vector<int>{1600, 2400, 3300, 3700, 4200, 4700, 7600, 9650, 10400}));
     const auto seconde = empr.find("\\trowd", empr.find("\\row", premiere));
     EXPECT_EQ(Bords(empr, seconde).size(), 14u);
-    EXPECT_NE(empr.find(" prêt bâtiment ja bonif.}\\cell"), std::string::npos);
-    EXPECT_NE(empr.find(" 150 000  }\\cell"), std::string::npos);
-    EXPECT_NE(empr.find(" 2,5 %}\\cell"), std::string::npos);
-    EXPECT_NE(empr.find(" 2 500    }\\cell"), std::string::npos);
-    EXPECT_NE(empr.find(" 01/10/39}\\cell"), std::string::npos);
-    EXPECT_NE(empr.find(" M}\\cell"), std::string::npos);
-    EXPECT_NE(empr.find("\\cellx10400"), std::string::npos);
+    EXPECT_TRUE(
+        Contient(empr, {" prêt bâtiment ja bonif.}\\cell", " 150 000  }\\cell", " 2,5 %}\\cell",
+                        " 2 500    }\\cell", " 01/10/39}\\cell", " M}\\cell"}));
 }
 
 TEST_F(TabsImmoEmprTest, InvestissementsSansSubventionNiDiffere) {
@@ -181,13 +155,9 @@ TEST_F(TabsImmoEmprTest, InvestissementsSansSubventionNiDiffere) {
     const auto troisieme = sans.find("\\trowd", sans.find("Emprunts"));
     EXPECT_EQ(Bords(sans, troisieme), (std::vector<int>{2900, 4050, 5500, 6400, 7400}));
     EXPECT_EQ(Bords(sans, sans.find("\\trowd")), (std::vector<int>{4050, 7400}));
-    EXPECT_NE(sans.find(" 100 000}\\cell"), std::string::npos);
-    EXPECT_NE(sans.find(" 2,5 %}\\cell"), std::string::npos);
-    EXPECT_NE(sans.find(" 40 trimestre}\\cell"), std::string::npos);
     // Self-financing 100000 - 80000 at 0 decimals.
-    EXPECT_NE(sans.find("\\cellx5800"), std::string::npos);
-    EXPECT_NE(sans.find("\\cellx7400"), std::string::npos);
-    EXPECT_NE(sans.find(" 20 000}\\cell"), std::string::npos);
+    EXPECT_TRUE(Contient(sans, {" 100 000}\\cell", " 2,5 %}\\cell", " 40 trimestre}\\cell",
+                                "\\cellx5800", " 20 000}\\cell"}));
 
     // No terminal: the default answers keep both columns.
     u.questions.clear();
@@ -195,17 +165,14 @@ TEST_F(TabsImmoEmprTest, InvestissementsSansSubventionNiDiffere) {
     EXPECT_EQ(u.questions.size(), 2u);
     const auto t3 = avec.find("\\trowd", avec.find("Emprunts"));
     EXPECT_EQ(Bords(avec, t3), (std::vector<int>{2900, 4050, 5200, 6300, 7200, 8200, 9200}));
-    EXPECT_NE(avec.find("Différé"), std::string::npos);
-    EXPECT_NE(avec.find(" 100 000,5}\\cell"), std::string::npos);
+    EXPECT_TRUE(Contient(avec, {"Différé", " 100 000,5}\\cell"}));
     // "Autofinancement" up to E = 6600 + 1000, its value 1600 further.
-    const auto autof = avec.rfind("\\trowd");
-    EXPECT_EQ(Bords(avec, autof), (std::vector<int>{3600, 7600, 9200}));
+    EXPECT_EQ(Bords(avec, avec.rfind("\\trowd")), (std::vector<int>{3600, 7600, 9200}));
 }
 
 TEST_F(TabsImmoEmprTest, InvestissementsPlanACentPourCent) {
     Plans({Plan("Reprise du cheptel", 100, 45000)});
-    EnrImmo s = Immo("Aide", 5000, 1, 1);
-    Subs({s});
+    Subs({Immo("Aide", 5000, 1, 1)});
     EnrEmprunt e = Emprunt("Prêt", 40000, 1, 1);
     e.differe = 12;
     Emprunts({e});
@@ -213,10 +180,8 @@ TEST_F(TabsImmoEmprTest, InvestissementsPlanACentPourCent) {
     EXPECT_TRUE(u.questions.empty());
     EXPECT_EQ(Compter(rtf, " Reprise du cheptel}\\cell"), 1);
     EXPECT_EQ(Compter(rtf, " 45 000}\\cell"), 2); // the line and the total
-    EXPECT_NE(rtf.find(" TOTAL}\\cell"), std::string::npos);
-    EXPECT_NE(rtf.find(" 12}\\cell"), std::string::npos);
     // 45000 - 5000 - 40000 = 0: the number text blanks it.
-    EXPECT_NE(rtf.find("Autofinancement}\\cell"), std::string::npos);
+    EXPECT_TRUE(Contient(rtf, {" TOTAL}\\cell", " 12}\\cell", "Autofinancement}\\cell"}));
 }
 
 } // namespace

@@ -2,14 +2,13 @@
 #include "links/FinDocument.h"
 #include "links/FormatFichier.h"
 #include "links/PiloteOpenOffice.h"
+#include "support/DossierTemporaire.h"
 #include "utils/OutilsFichiers.h"
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
 #include <functional>
-#include <unistd.h>
 
 namespace verdane::essai {
 namespace {
@@ -19,32 +18,29 @@ namespace fs = std::filesystem;
 class FinDocumentTest : public ::testing::Test {
 protected:
     void SetUp() override {
-        dossier = fs::temp_directory_path() / ("verdane-fin-" + std::to_string(::getpid()));
-        fs::create_directories(dossier);
         ctx.pilotes[static_cast<std::size_t>(Editeur::Word)] = &word;
         ctx.pilotes[static_cast<std::size_t>(Editeur::OpenOffice)] = &office;
         word.disponible = false;
     }
-    void TearDown() override { fs::remove_all(dossier); }
-    Texte Chemin(const std::string& nom) { return CheminTexte(dossier / nom); }
+    Texte Chemin(const std::string& nom) { return d / nom; }
 
     FauxUtilisateur u;
     Contexte ctx{u};
     PiloteEnregistreur word;
     PiloteEnregistreur office;
-    fs::path dossier;
+    test::DossierTemporaire d;
 };
 
 TEST_F(FinDocumentTest, LotDocAvecWordIndisponibleConvertiParLibreOffice) {
     ctx.etat.options.CheminEditeur = "C:\\Office\\WINWORD.EXE";
-    std::ofstream(dossier / "r.doc") << "{\\rtf1 x}";
-    std::ofstream(dossier / "r.rtf") << "copie";
+    d.Ecrire("r.doc", "{\\rtf1 x}");
+    d.Ecrire("r.rtf", "copie");
     TerminerDocument(ctx, "m.vdm", Chemin("r.doc"), false, true);
     const std::vector<std::string> attendu = {"ouvrir cache " + Chemin("r.doc"),
                                               "enregistrer " + Chemin("r.doc") + " 1 fermer"};
     EXPECT_EQ(office.journal, attendu);
     EXPECT_TRUE(word.journal.empty());
-    EXPECT_FALSE(fs::exists(dossier / "r.rtf"));
+    EXPECT_FALSE(fs::exists(d.Systeme() / "r.rtf"));
     EXPECT_TRUE(u.messages.empty());
 }
 
@@ -93,13 +89,14 @@ TEST_F(FinDocumentTest, ConversionManqueeGardeLeRtfSousSonNom) {
         office.refuse = office.ecritRtf = false;
         u.messages.clear();
         pannes[i]();
-        std::ofstream(dossier / "r.odt") << rtf;
-        std::ofstream(dossier / "r.rtf") << "ancienne copie";
+        d.Ecrire("r.odt", rtf);
+        d.Ecrire("r.rtf", "ancienne copie");
         TerminerDocument(ctx, "m.vdm", Chemin("r.odt"), false, true);
         const ConversionManquee& manquee = ctx.etat.conversionManquee;
         ASSERT_TRUE(manquee.Manquee());
         EXPECT_EQ(manquee.copieRtf, Chemin("r.rtf"));
-        EXPECT_FALSE(fs::exists(dossier / "r.odt")) << "no RTF under the name of another format";
+        EXPECT_FALSE(fs::exists(d.Systeme() / "r.odt"))
+            << "no RTF under the name of another format";
         // The RTF found under the asked name: the program's, or the office's own.
         if (i < 2)
             EXPECT_EQ(LireFichier(Chemin("r.rtf")), rtf);
@@ -118,13 +115,13 @@ TEST_F(FinDocumentTest, ConversionManqueeGardeLeRtfSousSonNom) {
     EXPECT_EQ(ctx.etat.conversionManquee.raison, "Le fichier écrit n'est pas au format ODT.");
     office.ecritRtf = false;
     office.refuse = true;
-    std::ofstream(dossier / "r.odt") << rtf;
+    d.Ecrire("r.odt", rtf);
     TerminerDocument(ctx, "m.vdm", Chemin("r.odt"), false, true);
     EXPECT_EQ(ctx.etat.conversionManquee.raison, "Accès refusé") << "the office's own words";
 
     // The next document that converts clears the failure.
     office.refuse = false;
-    std::ofstream(dossier / "r.odt") << rtf;
+    d.Ecrire("r.odt", rtf);
     TerminerDocument(ctx, "m.vdm", Chemin("r.odt"), false, true);
     EXPECT_FALSE(ctx.etat.conversionManquee.Manquee());
     EXPECT_TRUE(FichierAuFormat(Chemin("r.odt"), FormatDocument::Odt));
@@ -132,8 +129,8 @@ TEST_F(FinDocumentTest, ConversionManqueeGardeLeRtfSousSonNom) {
 
 TEST_F(FinDocumentTest, MiseAJourDUnDocManqueeGardeLeDocumentEtSaCopie) {
     // The Word document as it was, and its refreshed RTF copy.
-    std::ofstream(dossier / "r.doc") << OctetsDuFormat(FormatDocument::Doc);
-    std::ofstream(dossier / "r.rtf") << "{\\rtf1 frais}";
+    d.Ecrire("r.doc", OctetsDuFormat(FormatDocument::Doc));
+    d.Ecrire("r.rtf", "{\\rtf1 frais}");
     office.refuse = true;
     TerminerDocument(ctx, Chemin("r.rtf"), Chemin("r.doc"), true, true);
     EXPECT_EQ(ctx.etat.conversionManquee.copieRtf, Chemin("r.rtf"));
@@ -151,7 +148,7 @@ TEST_F(FinDocumentTest, DocumentPerduAvecSonOfficeDitCommeTel) {
     PiloteOpenOffice lo(ctx, bureau);
     ctx.pilotes[static_cast<std::size_t>(Editeur::OpenOffice)] = &lo;
     bureau.perdu = "LibreOffice s'est arrêté brutalement : le document en cours est perdu.";
-    std::ofstream(dossier / "r.pdf") << "{\\rtf1 x}";
+    d.Ecrire("r.pdf", "{\\rtf1 x}");
     TerminerDocument(ctx, "m.vdm", Chemin("r.pdf"), false, true);
     EXPECT_EQ(ctx.etat.conversionManquee.raison,
               "LibreOffice s'est arrêté brutalement : le document en cours est perdu.");

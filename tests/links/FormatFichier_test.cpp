@@ -14,21 +14,16 @@ TEST(FormatFichier, ChaqueFormatSeReconnaitASesOctets) {
 }
 
 TEST(FormatFichier, CeQuiNEnAQueLeNomNEstPasLeFormat) {
-    EXPECT_EQ(FormatDesOctets(""), FormatDocument::Autre);
-    EXPECT_EQ(FormatDesOctets("{\\rt"), FormatDocument::Autre);
-    EXPECT_EQ(FormatDesOctets(" {\\rtf1}"), FormatDocument::Autre) << "nothing before the group";
-    // The head of a compound file cut short.
-    EXPECT_EQ(FormatDesOctets(OctetsDuFormat(FormatDocument::Doc).substr(0, 7)),
-              FormatDocument::Autre);
-    // A zip that is neither: a spreadsheet, a text template, a zip cut in its header.
+    // Nothing before the RTF group; the head of a compound file cut short; zips that are neither:
+    // a spreadsheet, a text template, a zip cut in its header.
     std::string tableur = OctetsDuFormat(FormatDocument::Odt);
     tableur.replace(tableur.find(".text"), 5, ".sheet");
-    EXPECT_EQ(FormatDesOctets(tableur), FormatDocument::Autre);
     std::string modele = OctetsDuFormat(FormatDocument::Odt);
     modele.insert(modele.find("content.xml") - 30, "-template");
-    EXPECT_EQ(FormatDesOctets(modele), FormatDocument::Autre);
-    EXPECT_EQ(FormatDesOctets(OctetsDuFormat(FormatDocument::Odt).substr(0, 34)),
-              FormatDocument::Autre);
+    for (const std::string& octets : {std::string(), std::string("{\\rt"), std::string(" {\\rtf1}"),
+                                      OctetsDuFormat(FormatDocument::Doc).substr(0, 7), tableur,
+                                      modele, OctetsDuFormat(FormatDocument::Odt).substr(0, 34)})
+        EXPECT_EQ(FormatDesOctets(octets), FormatDocument::Autre) << octets;
 }
 
 TEST(FormatFichier, LeFichierEstLuSurDisque) {

@@ -1,11 +1,11 @@
 #include "links/Faux.h"
 #include "links/Liens.h"
+#include "support/DossierTemporaire.h"
 #include "utils/OutilsFichiers.h"
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
 
 namespace verdane::essai {
 namespace {
@@ -25,20 +25,17 @@ public:
 class SauverSousTest : public ::testing::Test {
 protected:
     void SetUp() override {
-        dossier = fs::temp_directory_path() / ("verdane-liens-" + std::to_string(::getpid()));
-        fs::create_directories(dossier);
         for (auto e : {Editeur::Word, Editeur::WordPro, Editeur::OpenOffice})
             ctx.pilotes[static_cast<std::size_t>(e)] = &pilote;
         pilote.PoserDialogue(&dialogue);
     }
-    void TearDown() override { fs::remove_all(dossier); }
-    Texte Chemin(const std::string& nom) { return CheminTexte(dossier / nom); }
+    Texte Chemin(const std::string& nom) { return d / nom; }
 
     FauxUtilisateur u;
     Contexte ctx{u};
     PiloteEnregistreur pilote;
     Dialogue dialogue;
-    fs::path dossier;
+    test::DossierTemporaire d;
 };
 
 TEST(EditeurCourant, NomDuProgrammeEnMinusculesQuelQueSoitLeSysteme) {
@@ -64,13 +61,13 @@ TEST(EditeurCourant, NomDuProgrammeEnMinusculesQuelQueSoitLeSysteme) {
 }
 
 TEST(NomEditeurAffiche, NomsConnusEtAutres) {
-    EXPECT_EQ(NomEditeurAffiche(""), "Aucun");
-    EXPECT_EQ(NomEditeurAffiche("C:\\Office\\WINWORD.EXE"), "Microsoft Word");
-    EXPECT_EQ(NomEditeurAffiche("C:\\lotus\\wordpro.exe"), "Lotus Word Pro");
-    EXPECT_EQ(NomEditeurAffiche("C:\\OpenOffice\\program\\soffice.exe"), "Sun OpenOffice");
-    EXPECT_EQ(NomEditeurAffiche("/usr/bin/soffice"), "Sun OpenOffice");
-    EXPECT_EQ(NomEditeurAffiche("C:\\Outils\\NOTEPAD.EXE"), "Notepad");
-    EXPECT_EQ(NomEditeurAffiche("/usr/bin/abiword"), "Abiword");
+    std::vector<Texte> noms;
+    for (const char* chemin : {"", "C:\\Office\\WINWORD.EXE", "C:\\lotus\\wordpro.exe",
+                               "C:\\OpenOffice\\program\\soffice.exe", "/usr/bin/soffice",
+                               "C:\\Outils\\NOTEPAD.EXE", "/usr/bin/abiword"})
+        noms.push_back(NomEditeurAffiche(chemin));
+    EXPECT_EQ(noms, (std::vector<Texte>{"Aucun", "Microsoft Word", "Lotus Word Pro",
+                                        "Sun OpenOffice", "Sun OpenOffice", "Notepad", "Abiword"}));
 }
 
 TEST(CheminVersURL, BlancsEtSeparateursSeulement) {
@@ -79,12 +76,11 @@ TEST(CheminVersURL, BlancsEtSeparateursSeulement) {
 }
 
 TEST(FormatDuChemin, TroisDernieresLettres) {
-    EXPECT_EQ(FormatDuChemin("x.RTF"), FormatDocument::Rtf);
-    EXPECT_EQ(FormatDuChemin("x.Doc"), FormatDocument::Doc);
-    EXPECT_EQ(FormatDuChemin("x.docx"), FormatDocument::Docx);
-    EXPECT_EQ(FormatDuChemin("x.lwp"), FormatDocument::Lwp);
-    EXPECT_EQ(FormatDuChemin("x.txt"), FormatDocument::Autre);
-    EXPECT_EQ(FormatDuChemin("x"), FormatDocument::Autre);
+    std::vector<FormatDocument> formats;
+    for (const char* chemin : {"x.RTF", "x.Doc", "x.docx", "x.lwp", "x.txt", "x"})
+        formats.push_back(FormatDuChemin(chemin));
+    using enum FormatDocument;
+    EXPECT_EQ(formats, (std::vector<FormatDocument>{Rtf, Doc, Docx, Lwp, Autre, Autre}));
 }
 
 TEST(OuvrirDansEditeur, SansTraitementDeTexteLieLeDit) {
@@ -98,9 +94,9 @@ TEST(OuvrirDansEditeur, SansTraitementDeTexteLieLeDit) {
 }
 
 TEST_F(SauverSousTest, UnModeleEstSauveEnRtfPuisRenommeEnVdm) {
-    std::ofstream(dossier / "lettre.vdm") << "ancien";
+    d.Ecrire("lettre.vdm", "ancien");
     ASSERT_TRUE(SauverSous(ctx, false, Editeur::OpenOffice, Chemin("lettre.VDM"), true));
-    EXPECT_FALSE(fs::exists(dossier / "lettre.rtf"));
+    EXPECT_FALSE(fs::exists(d.Systeme() / "lettre.rtf"));
     EXPECT_EQ(*LireFichier(Chemin("lettre.vdm")), OctetsDuFormat(FormatDocument::Rtf));
     const std::vector<std::string> attendu = {"enregistrer " + Chemin("lettre.rtf") + " 0",
                                               "fermer 7", "ouvrir " + Chemin("lettre.vdm")};

@@ -1,13 +1,12 @@
 #include "links/Faux.h"
 #include "links/PiloteIndisponible.h"
 #include "links/RechercheEditeurs.h"
+#include "support/DossierTemporaire.h"
 #include "utils/OutilsFichiers.h"
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
-#include <unistd.h>
 
 namespace verdane::essai {
 namespace {
@@ -30,22 +29,19 @@ public:
 class RechercheTest : public ::testing::Test {
 protected:
     void SetUp() override {
-        racine = fs::temp_directory_path() / ("verdane-recherche-" + std::to_string(::getpid()));
-        fs::create_directories(racine / "a/b/c");
-        fs::create_directories(racine / "Program Files/Microsoft Office/OFFICE11");
-        fs::create_directories(racine / "opt/libreoffice7.6/program");
-        std::ofstream(racine / "Program Files/Microsoft Office/OFFICE11/WINWORD.EXE") << "MZ";
-        std::ofstream(racine / "opt/libreoffice7.6/program/soffice") << "#!/bin/sh";
+        d.Ecrire("Program Files/Microsoft Office/OFFICE11/WINWORD.EXE", "MZ");
+        d.Ecrire("opt/libreoffice7.6/program/soffice", "#!/bin/sh");
         // A link back to the top must not make the walk loop.
+        fs::create_directories(racine / "a/b/c");
         fs::create_directory_symlink(racine, racine / "a/b/boucle");
         parametres.racines = {racine};
     }
-    void TearDown() override { fs::remove_all(racine); }
 
+    test::DossierTemporaire d;
+    const fs::path racine = d.Systeme();
     FauxUtilisateur u;
     Contexte ctx{u};
     Suivi suivi;
-    fs::path racine;
     ParametresRecherche parametres;
 };
 
@@ -64,8 +60,7 @@ TEST_F(RechercheTest, ParcoursEnLargeurSansCasseNiBoucle) {
 }
 
 TEST_F(RechercheTest, DossiersPrioritairesAvantLeDisque) {
-    fs::create_directories(racine / "bin");
-    std::ofstream(racine / "bin/libreoffice") << "#!/bin/sh";
+    d.Ecrire("bin/libreoffice", "#!/bin/sh");
     parametres.prioritaires = {racine / "absent", racine / "bin"};
     EXPECT_EQ(ChercherEditeur(ctx, "soffice.exe", suivi, parametres),
               CheminTexte(racine / "bin/libreoffice"));

@@ -1,5 +1,9 @@
 // The link against a real LibreOffice: each test starts its own office and ends it.
 
+#include "library/ComposeurCode.h"
+#include "library/InfoBulle.h"
+#include "library/InsererCode.h"
+#include "library/LectureSelection.h"
 #include "links/FinDocument.h"
 #include "links/FormatFichier.h"
 #include "links/Liens.h"
@@ -31,12 +35,14 @@ class Utilisateur : public UtilisateurMuet {
 public:
     void AfficherMessage(const Message& m) override {
         messages.push_back(m.texte + " / " + m.technique);
+        recus.push_back(m);
     }
     // Agrees to everything.
     Reponse Question(const Texte&, const Texte&, Boutons b, Reponse, Icone) override {
         return b == Boutons::OkAnnuler || b == Boutons::Ok ? Reponse::Ok : Reponse::Oui;
     }
     std::vector<std::string> messages;
+    std::vector<Message> recus;
 };
 
 std::string Commande(const std::string& ligne) {
@@ -100,6 +106,10 @@ protected:
     Texte Chemin(const std::string& nom) { return CheminTexte(dossier / nom); }
     std::string Systeme(const std::string& nom) { return (dossier / nom).string(); }
 
+    Texte ToutLeTexte() {
+        liens->Bureau().SelectionnerTout();
+        return liens->Office().LireSelection();
+    }
     // The whole text of a document, opened hidden and closed again.
     Texte Relire(const Texte& chemin) {
         if (!liens->Office().OuvrirDocumentCache(chemin)) return "<illisible>";
@@ -115,82 +125,127 @@ protected:
     fs::path dossier;
 };
 
-TEST_F(LibreOfficeTest, NouveauDocumentInsertionSelectionEtSauvegardes) {
+TEST_F(LibreOfficeTest, EditionEtSauvegardes) {
     PiloteOpenOffice& office = liens->Office();
     ASSERT_TRUE(office.NouveauDocument()) << (u.messages.empty() ? "" : u.messages[0]);
     ASSERT_TRUE(office.InsererTexte("Exploitation Dupont, été 2026", "", 0));
     liens->Bureau().SelectionnerTout();
     EXPECT_EQ(office.LireSelection(), "Exploitation Dupont, été 2026");
-
     for (const char* nom : {"r.rtf", "r.doc", "r.odt", "r.pdf"})
         EXPECT_TRUE(SauverSous(ctx, false, Editeur::OpenOffice, Chemin(nom), false)) << nom;
     EXPECT_TRUE(office.FermerDocument(7));
-    EXPECT_TRUE(u.messages.empty()) << u.messages[0];
-
     for (const char* nom : {"r.rtf", "r.doc", "r.odt"})
         EXPECT_EQ(Relire(Chemin(nom)), "Exploitation Dupont, été 2026") << nom;
     EXPECT_NE(Commande("file -b '" + Systeme("r.doc") + "'").find("Composite Document File"),
               std::string::npos);
-    EXPECT_EQ(Commande("file -b --mime-type '" + Systeme("r.doc") + "'"), "application/msword\n");
     EXPECT_EQ(Commande("file -b --mime-type '" + Systeme("r.odt") + "'"),
               "application/vnd.oasis.opendocument.text\n");
     EXPECT_EQ(LireOctets(Chemin("r.pdf"), 0, 5).value_or(""), "%PDF-");
-    EXPECT_EQ(liens->Bureau().Demarrages(), 1);
-}
 
-TEST_F(LibreOfficeTest, TexteInsereAuCurseurGardeApresSauvegarde) {
+    // Text put at the cursor of an opened document, kept by its save.
     std::ofstream(dossier / "lettre.rtf") << "{\\rtf1\\ansi Madame, Monsieur,\\par}";
-    PiloteOpenOffice& office = liens->Office();
     ASSERT_TRUE(office.OuvrirDocument(Chemin("lettre.rtf")));
     ASSERT_TRUE(office.InsererTexte("#mrl(nomExplSoc)# ", "", 0));
     ASSERT_TRUE(office.SauverDocument(0, false));
     ASSERT_TRUE(office.FermerDocument(0)) << "saved: closed without a question";
     EXPECT_EQ(Relire(Chemin("lettre.rtf")), "#mrl(nomExplSoc)# Madame, Monsieur,");
     EXPECT_TRUE(u.messages.empty()) << u.messages[0];
+    EXPECT_EQ(liens->Bureau().Demarrages(), 1);
 }
 
-TEST_F(LibreOfficeTest, ResultatsConvertisDansUnSeulOffice) {
-    const char* rtf = "{\\rtf1\\ansi Valeur : 12 345 \\'e9t\\'e9\\par}";
-    for (const char* nom : {"r.doc", "r.odt", "r.pdf", "r.docx"}) {
-        std::ofstream(dossier / nom) << rtf;
-        TerminerDocument(ctx, "", Chemin(nom), false, true);
+// The end steps of a batch, in one office: conversions of results twice to the same names (an
+// annotation in each, as every model with a tooltip gives one), a Word document updated through
+// its RTF copy, the lock of an office that is gone.
+TEST_F(LibreOfficeTest, ConversionsDUnLotSansVerrouNiCopie) {
+    const char* rtf =
+        "{\\rtf1\\ansi Valeur : 12 345 \\'e9t\\'e9 {\\fs22 {\\*\\atrfstart 47317183}612 000}"
+        "{\\cs15\\v\\fs20 {\\*\\atrfend 47317183}{\\*\\atnid MRL}{\\*\\atnauthor "
+        "Titre }\\chatn {\\*\\annotation {\\*\\atnref 47317183}{Le texte}}} litres\\par}";
+    for (int fois = 0; fois < 2; ++fois) {
+        for (const char* nom : {"r.doc", "r.odt", "r.docx", "r.pdf"}) {
+            std::ofstream(dossier / nom) << rtf;
+            TerminerDocument(ctx, "", Chemin(nom), false, true);
+            EXPECT_FALSE(ctx.etat.conversionManquee.Manquee())
+                << nom << " " << ctx.etat.conversionManquee.raison;
+            EXPECT_TRUE(FichierAuFormat(Chemin(nom), FormatDuChemin(Chemin(nom)))) << nom;
+            EXPECT_EQ(Verrous(dossier), std::vector<std::string>{}) << nom << " " << fois;
+        }
     }
+    EXPECT_FALSE(fs::exists(dossier / "r.rtf"));
     std::ofstream(dossier / "r.rtf") << "copie";
     SupprimerCopieRtf(Chemin("r.doc"));
     EXPECT_FALSE(fs::exists(dossier / "r.rtf"));
-    EXPECT_TRUE(u.messages.empty()) << u.messages[0];
     EXPECT_EQ(Commande("file -b --mime-type '" + Systeme("r.doc") + "'"), "application/msword\n");
-    EXPECT_EQ(Relire(Chemin("r.doc")), "Valeur : 12 345 été");
-    EXPECT_EQ(Relire(Chemin("r.odt")), "Valeur : 12 345 été");
-    EXPECT_EQ(Relire(Chemin("r.docx")), "Valeur : 12 345 été");
-    EXPECT_EQ(LireOctets(Chemin("r.pdf"), 0, 5).value_or(""), "%PDF-");
+    for (const char* nom : {"r.doc", "r.odt", "r.docx"})
+        EXPECT_EQ(Relire(Chemin(nom)).substr(0, 27), "Valeur : 12 345 été 612 000") << nom;
+    EXPECT_EQ(Verrous(dossier), std::vector<std::string>{}) << "read back and closed";
+
+    // The engine rewrites the copy; the end steps make the document a ".doc" again.
+    std::ofstream(dossier / "m.doc")
+        << "{\\rtf1\\ansi {\\v #debdata#}12{\\v #findata=#mrl(x)#}\\par}";
+    TerminerDocument(ctx, "", Chemin("m.doc"), false, true);
+    const auto copie = PreparerMiseAJour(ctx, Chemin("m.doc"));
+    ASSERT_TRUE(copie.has_value());
+    EXPECT_EQ(*copie, Chemin("m.rtf"));
+    EXPECT_TRUE(CommencePar(LireFichier(*copie).value_or(""), "{\\rtf1"));
+    TerminerDocument(ctx, *copie, Chemin("m.doc"), true, true);
+    EXPECT_FALSE(fs::exists(dossier / "m.rtf"));
+    EXPECT_EQ(Commande("file -b --mime-type '" + Systeme("m.doc") + "'"), "application/msword\n");
+
+    // Left by an office of a run that was killed: its profile is gone.
+    std::ofstream(dossier / "v.doc") << "{\\rtf1\\ansi Texte\\par}";
+    std::ofstream(dossier / ".~lock.v.doc#")
+        << ",verdane,poste,24.11.2026 01:00,file://" + PrefixeProfils() + "1-disparu;";
+    TerminerDocument(ctx, "", Chemin("v.doc"), false, true);
+    EXPECT_FALSE(ctx.etat.conversionManquee.Manquee()) << ctx.etat.conversionManquee.raison;
+    EXPECT_TRUE(FichierAuFormat(Chemin("v.doc"), FormatDocument::Doc));
+    EXPECT_EQ(Verrous(dossier), std::vector<std::string>{});
+    EXPECT_TRUE(u.messages.empty()) << u.messages[0];
     EXPECT_EQ(liens->Bureau().Demarrages(), 1) << "one start for the whole run";
 }
 
-TEST_F(LibreOfficeTest, MiseAJourDUnDocParSaCopieRtf) {
-    std::ofstream(dossier / "r.doc")
-        << "{\\rtf1\\ansi {\\v #debdata#}12{\\v #findata=#mrl(x)#}\\par}";
-    TerminerDocument(ctx, "", Chemin("r.doc"), false, true);
-    const auto copie = PreparerMiseAJour(ctx, Chemin("r.doc"));
-    ASSERT_TRUE(copie.has_value());
-    EXPECT_EQ(*copie, Chemin("r.rtf"));
-    EXPECT_TRUE(CommencePar(LireFichier(*copie).value_or(""), "{\\rtf1"));
-    // The engine rewrites the copy; the end steps make the document a ".doc" again.
-    TerminerDocument(ctx, *copie, Chemin("r.doc"), true, true);
-    EXPECT_FALSE(fs::exists(dossier / "r.rtf"));
-    EXPECT_EQ(Commande("file -b --mime-type '" + Systeme("r.doc") + "'"), "application/msword\n");
-    EXPECT_TRUE(u.messages.empty()) << u.messages[0];
-}
+// Codes composed by the insertion dialogs, in one office: a code and its tooltip put at the cursor,
+// then a code of a new document explained, then the office killed under the link.
+TEST_F(LibreOfficeTest, CodeInsereReluExpliqueEtOfficeFerme) {
+    ctx.etat.enrDossier.nom = "TILLEULS";
+    ASSERT_TRUE(liens->Office().NouveauDocument()) << (u.recus.empty() ? "" : u.recus[0].technique);
+    ChoixDonnee choix;
+    choix.cle = "VLVB.DON+VLVB-12:0";
+    choix.indexValeur = 4 + 3;
+    choix.decimales = 2;
+    ctx.etat.insertion.codeEnAttente = ComposeurCode::CodeDonnee(choix);
+    ASSERT_TRUE(InsererCode(ctx));
+    // Behind it, a tooltip whose blanks travel as "_": the cursor stands behind the first.
+    ASSERT_TRUE(InsererInfoBulle(ctx, {"Titre long", "Le texte", "mot", "", 10}));
+    EXPECT_EQ(ToutLeTexte(),
+              "#mrl(VLVB.DON+VLVB-3a12:2)##mrl(INFO:MRL:10:Titre_long:Le_texte:mot)#");
+    ASSERT_TRUE(u.recus.empty()) << u.recus[0].texte;
 
-TEST_F(LibreOfficeTest, OfficeTueEntreDeuxOperationsRedemarre) {
     ASSERT_TRUE(liens->Office().NouveauDocument());
-    const pid_t premier = liens->Bureau().PidOffice();
-    ASSERT_GT(premier, 0);
-    ::kill(-premier, SIGKILL);
-    ASSERT_TRUE(liens->Office().NouveauDocument()) << (u.messages.empty() ? "" : u.messages[0]);
-    EXPECT_EQ(liens->Bureau().Demarrages(), 2);
-    EXPECT_TRUE(GroupeTermine(premier));
-    ASSERT_TRUE(liens->Office().InsererTexte("encore là", "", 0));
+    ctx.etat.insertion.codeEnAttente = "nomDossier";
+    ASSERT_TRUE(InsererCode(ctx));
+    liens->Bureau().SelectionnerTout();
+    const auto explication = ExpliquerSelection(ctx);
+    ASSERT_TRUE(explication);
+    EXPECT_EQ(explication->valeur, "TILLEULS");
+    ASSERT_EQ(u.recus.size(), 1u);
+    EXPECT_EQ(u.recus[0].titre, "Interprétation d'un code Verdane");
+    EXPECT_NE(u.recus[0].texte.find("le nom du dossier"), Texte::npos);
+
+    ASSERT_TRUE(liens->Office().NouveauDocument());
+    ctx.etat.insertion.codeEnAttente = "saut2page";
+    ASSERT_TRUE(InsererCode(ctx));
+    const pid_t pid = liens->Bureau().PidOffice();
+    ASSERT_GT(pid, 0);
+    ::kill(-pid, SIGKILL);
+    // The link starts another office, which has no document: said so, nothing breaks.
+    EXPECT_FALSE(InsererCode(ctx));
+    ASSERT_GT(u.recus.size(), 1u);
+    EXPECT_EQ(u.recus.back().texte,
+              "Aucun document n'est actuellement ouvert dans OpenOffice avec Verdane.");
+    ASSERT_TRUE(liens->Office().NouveauDocument());
+    EXPECT_TRUE(InsererCode(ctx));
+    EXPECT_EQ(ToutLeTexte(), "#mrl(saut2page)#");
 }
 
 TEST_F(LibreOfficeTest, OfficeTueAuMilieuDUnLot) {
@@ -218,8 +273,16 @@ TEST_F(LibreOfficeTest, OfficeTueAuMilieuDUnLot) {
     EXPECT_TRUE(GroupeTermine(office));
 }
 
-TEST_F(LibreOfficeTest, OfficeFigeArreteEtRemplace) {
+TEST_F(LibreOfficeTest, OfficeTueOuFigeRemplace) {
     ASSERT_TRUE(liens->Office().NouveauDocument());
+    const pid_t premier = liens->Bureau().PidOffice();
+    ASSERT_GT(premier, 0);
+    ::kill(-premier, SIGKILL);
+    ASSERT_TRUE(liens->Office().NouveauDocument()) << (u.messages.empty() ? "" : u.messages[0]);
+    EXPECT_EQ(liens->Bureau().Demarrages(), 2);
+    EXPECT_TRUE(GroupeTermine(premier));
+    ASSERT_TRUE(liens->Office().InsererTexte("encore là", "", 0));
+
     const pid_t fige = liens->Bureau().PidOffice();
     // The office stopped: the next operation can't end, whatever the time allowed.
     ::kill(-fige, SIGSTOP);
@@ -232,35 +295,11 @@ TEST_F(LibreOfficeTest, OfficeFigeArreteEtRemplace) {
     }
     liens->Bureau().PoserDelaiOperation(kDemarrage);
     ASSERT_TRUE(liens->Office().NouveauDocument());
-    EXPECT_EQ(liens->Bureau().Demarrages(), 2) << "the hung office replaced";
+    EXPECT_EQ(liens->Bureau().Demarrages(), 3) << "the hung office replaced";
     EXPECT_TRUE(Attendre([&] { return GroupeTermine(fige); }));
 }
 
-TEST_F(LibreOfficeTest, ConversionsRepeteesSansVerrouNiOfficeRestant) {
-    // An annotation, as every model with a tooltip gives one.
-    const char* rtf =
-        "{\\rtf1\\ansi Lait vendu : {\\fs22 {\\*\\atrfstart 47317183}612 000}"
-        "{\\cs15\\v\\fs20 {\\*\\atrfend 47317183}{\\*\\atnid MRL}{\\*\\atnauthor "
-        "Titre }\\chatn {\\*\\annotation {\\*\\atnref 47317183}{Le texte}}} litres\\par}";
-    for (int fois = 0; fois < 2; ++fois) {
-        for (const char* nom : {"r.doc", "r.odt", "r.docx", "r.pdf"}) {
-            std::ofstream(dossier / nom) << rtf;
-            TerminerDocument(ctx, "", Chemin(nom), false, true);
-            EXPECT_FALSE(ctx.etat.conversionManquee.Manquee())
-                << nom << " " << ctx.etat.conversionManquee.raison;
-            EXPECT_TRUE(FichierAuFormat(Chemin(nom), FormatDuChemin(Chemin(nom)))) << nom;
-            EXPECT_EQ(Verrous(dossier), std::vector<std::string>{}) << nom << " " << fois;
-        }
-    }
-    EXPECT_FALSE(fs::exists(dossier / "r.rtf"));
-    EXPECT_TRUE(u.messages.empty()) << u.messages[0];
-    for (const char* nom : {"r.doc", "r.odt", "r.docx"})
-        EXPECT_EQ(Relire(Chemin(nom)).substr(0, 20), "Lait vendu : 612 000") << nom;
-    EXPECT_EQ(Verrous(dossier), std::vector<std::string>{}) << "read back and closed";
-    EXPECT_EQ(liens->Bureau().Demarrages(), 1);
-}
-
-TEST_F(LibreOfficeTest, OfficeMortSousUnAppelDitCommeTel) {
+TEST_F(LibreOfficeTest, OfficeMortSousUnAppelOuAvantLaSauvegardeDitCommeTel) {
     std::ofstream(dossier / "r.rtf") << "{\\rtf1\\ansi Texte\\par}";
     ASSERT_TRUE(liens->Office().OuvrirDocumentCache(Chemin("r.rtf")));
     ASSERT_TRUE(liens->Bureau().PrendreDocumentCourant());
@@ -282,43 +321,15 @@ TEST_F(LibreOfficeTest, OfficeMortSousUnAppelDitCommeTel) {
     tueur.join();
     EXPECT_NE(liens->Bureau().DocumentPerdu().find("le document en cours est perdu"),
               std::string::npos);
-}
 
-TEST_F(LibreOfficeTest, DocumentPerduEntreOuvertureEtSauvegarde) {
     std::ofstream(dossier / "r.doc") << "{\\rtf1\\ansi Texte\\par}";
     ASSERT_TRUE(liens->Office().OuvrirDocumentCache(Chemin("r.doc")));
-    const pid_t office = liens->Bureau().PidOffice();
-    ::kill(-office, SIGKILL);
+    ::kill(-liens->Bureau().PidOffice(), SIGKILL);
     // The office is started again, empty: the save says why the document isn't there.
     EXPECT_FALSE(SauverSous(ctx, true, Editeur::OpenOffice, Chemin("r.doc"), false));
     EXPECT_NE(liens->Office().DerniereErreur().find("LibreOffice s'est arrêté brutalement"),
               std::string::npos)
         << liens->Office().DerniereErreur();
-}
-
-TEST_F(LibreOfficeTest, VerrouDUnOfficeDisparuRetireAvantOuverture) {
-    std::ofstream(dossier / "r.doc") << "{\\rtf1\\ansi Texte\\par}";
-    // Left by an office of a run that was killed: its profile is gone.
-    std::ofstream(dossier / ".~lock.r.doc#")
-        << ",verdane,poste,24.11.2026 01:00,file://" + PrefixeProfils() + "1-disparu;";
-    TerminerDocument(ctx, "", Chemin("r.doc"), false, true);
-    EXPECT_FALSE(ctx.etat.conversionManquee.Manquee()) << ctx.etat.conversionManquee.raison;
-    EXPECT_TRUE(FichierAuFormat(Chemin("r.doc"), FormatDocument::Doc));
-    EXPECT_EQ(Verrous(dossier), std::vector<std::string>{});
-}
-
-TEST_F(LibreOfficeTest, FichiersTemporairesDansLeProfilPrive) {
-    ASSERT_TRUE(liens->Office().NouveauDocument());
-    const std::string profil = liens->Bureau().ProfilOffice();
-    ASSERT_EQ(profil.rfind(PrefixeProfils() + std::to_string(::getpid()) + "-", 0), 0u) << profil;
-    std::ifstream environ("/proc/" + std::to_string(liens->Bureau().PidOffice()) + "/environ");
-    std::string variable;
-    bool vu = false;
-    while (std::getline(environ, variable, '\0'))
-        vu = vu || variable == "TMPDIR=" + (fs::path(profil) / "tmp").string();
-    EXPECT_TRUE(vu);
-    liens->Bureau().Terminer();
-    EXPECT_FALSE(fs::exists(profil));
 }
 
 TEST_F(LibreOfficeTest, ProgrammeChoisiLuAuDemarrageDeLOffice) {
@@ -363,6 +374,18 @@ TEST_F(LibreOfficeTest, ErreursDitesClairement) {
     ASSERT_EQ(u.messages.size(), 2u);
     EXPECT_TRUE(CommencePar(u.messages[1], "Erreur du traitement de texte lors de la sauvegarde"));
     liens->Office().FermerDocument(7);
+
+    // The office's temporary files are in its private profile, which goes with it.
+    const std::string profil = liens->Bureau().ProfilOffice();
+    ASSERT_EQ(profil.rfind(PrefixeProfils() + std::to_string(::getpid()) + "-", 0), 0u) << profil;
+    std::ifstream environ("/proc/" + std::to_string(liens->Bureau().PidOffice()) + "/environ");
+    std::string variable;
+    bool vu = false;
+    while (std::getline(environ, variable, '\0'))
+        vu = vu || variable == "TMPDIR=" + (fs::path(profil) / "tmp").string();
+    EXPECT_TRUE(vu);
+    liens->Bureau().Terminer();
+    EXPECT_FALSE(fs::exists(profil));
 
     // A program that isn't an office.
     BureauLibreOffice faux(OptionsOffice{"/bin/false", "", true, kDemarrage});
