@@ -7,6 +7,7 @@
 #include "utils/EcritureSure.h"
 #include "utils/OutilsFichiers.h"
 
+#include <cstring>
 #include <optional>
 
 namespace verdane {
@@ -18,15 +19,27 @@ constexpr std::string_view kFinMarque = ")#";
 
 // The next line of `reste` without its end (CR LF, LF or CR); `reste` goes on behind it.
 std::string_view LireLigne(std::string_view& reste) {
-    const std::size_t fin = reste.find_first_of("\r\n");
+    const char* debut = reste.data();
+    const auto* lf = static_cast<const char*>(std::memchr(debut, '\n', reste.size()));
+    const std::size_t avantLf = lf == nullptr ? reste.size() : static_cast<std::size_t>(lf - debut);
+    const auto* cr = static_cast<const char*>(std::memchr(debut, '\r', avantLf));
+    const std::size_t fin = cr == nullptr ? avantLf : static_cast<std::size_t>(cr - debut);
     const std::string_view ligne = reste.substr(0, fin);
-    if (fin == std::string_view::npos) {
+    if (fin == reste.size()) {
         reste = {};
     } else {
         const bool crlf = reste[fin] == '\r' && fin + 1 < reste.size() && reste[fin + 1] == '\n';
         reste.remove_prefix(fin + (crlf ? 2 : 1));
     }
     return ligne;
+}
+
+// The prefix and head of a code, which end at its first "(", read into `tableau`.
+void LireTete(std::string_view code, TableauModele& tableau) {
+    const std::size_t parenthese = code.find('(');
+    Texte tete(code.substr(0, parenthese == std::string_view::npos ? parenthese : parenthese + 1));
+    LirePrefixeTableau(tete, tableau);
+    LireEnteteTableau(tete, tableau);
 }
 
 Texte Crochet(std::string_view& reste) {
@@ -63,10 +76,14 @@ TableauModele LireSource(const SourceTableau& source, bool lignes) {
     TableauModele tableau;
     std::string_view entree = source.entree;
     LireNoms(LireLigne(entree), tableau);
+    if (!lignes) {
+        LireTete(source.Code(), tableau);
+        return tableau;
+    }
     Texte code(source.Code());
     LirePrefixeTableau(code, tableau);
     LireEnteteTableau(code, tableau);
-    if (lignes) LireLignesTableau(code, tableau);
+    LireLignesTableau(code, tableau);
     return tableau;
 }
 
@@ -96,9 +113,7 @@ std::vector<TableauModele> LireTexteTableaux(std::string_view contenu, bool deta
         source.tailleCode = code->size();
         source.lignesEnAttente = true;
         LireNoms(entete, tableau);
-        Texte texteCode(*code);
-        LirePrefixeTableau(texteCode, tableau);
-        LireEnteteTableau(texteCode, tableau);
+        LireTete(*code, tableau);
         if (detail) LireLignesEnAttente(tableau);
         tableaux.push_back(std::move(tableau));
     }
@@ -123,6 +138,9 @@ std::size_t CompterEntrees(std::string_view contenu) {
 
 Texte TexteTableaux(const std::vector<TableauModele>& tableaux, const Options& options) {
     Texte texte;
+    std::size_t taille = 0;
+    for (const TableauModele& tableau : tableaux) taille += tableau.source.entree.size() + 2;
+    texte.reserve(taille);
     for (const TableauModele& tableau : tableaux) {
         const SourceTableau& source = tableau.source;
         if (!source.entree.empty() && LireSource(source, !source.lignesEnAttente) == tableau) {
@@ -137,9 +155,9 @@ Texte TexteTableaux(const std::vector<TableauModele>& tableaux, const Options& o
             LireLignesEnAttente(complet);
             modele = &complet;
         }
+        // Every line, those still to be defined too: saving loses nothing.
         int ligneIncomplete = 0;
-        Texte code = CodeModele(*modele, options, ligneIncomplete);
-        if (ligneIncomplete != 0) code.clear();
+        const Texte code = CodeModele(*modele, options, ligneIncomplete, true);
         if (!texte.empty() && !FinitParFinDeLigne(texte)) texte += "\r\n";
         texte += '[' + tableau.nom + "][" + tableau.dossier + "][" + tableau.sousDossier + "]\r\n";
         texte += Texte(kDebutMarque) + code + Texte(kFinMarque) + "\r\n\r\n";

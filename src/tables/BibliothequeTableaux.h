@@ -24,8 +24,8 @@ void LireLignesEnAttente(TableauModele& tableau);
 // How many entries (lines beginning with "[") a library's text holds.
 std::size_t CompterEntrees(std::string_view contenu);
 // The library's text. A table whose model is still what its entry held is written as that
-// entry, byte for byte; any other is written from its model, and one with a line lacking its
-// definition gets an empty mark.
+// entry, byte for byte; any other is written from its model, every line of it, those still
+// lacking their definition too.
 Texte TexteTableaux(const std::vector<TableauModele>& tableaux, const Options& options);
 
 // Loads the library file into the loaded tables, their lines waiting (or read when `detail`).
