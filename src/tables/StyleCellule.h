@@ -4,13 +4,14 @@
 // then top; bottom; left; right border; background (the frame).
 
 #include "shell/etat/Etat.h"
-#include "utils/GestFontTable.h"
 #include "utils/Texte.h"
 
 #include <string_view>
 
 namespace verdane {
 
+inline constexpr int kPoliceDefaut = 5006;
+inline constexpr int kPremierePolice = 5000;
 inline constexpr int kFondBlanc = 8;
 
 enum Bordure { kSansBordure = 0, kBordureSimple = 1, kBordureDouble = 2 };
