@@ -40,7 +40,7 @@ StyleCellule FormatsLigne::Style() const {
 
 void FormatsLigne::Modifier(const StyleCellule& style) {
     StyleCellule s = style;
-    s.police = std::clamp(s.police, kPremierePolice, kDernierePolice);
+    s.police = std::clamp(s.police, kPremierePolice, kPremierePolice + 156);
     s.taille = std::max(s.taille, 1);
     s.couleur = std::clamp(s.couleur, 1, 16);
     s.alignement = AlignementDeTexte(TexteAlignement(s.alignement));
