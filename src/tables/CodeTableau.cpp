@@ -63,18 +63,25 @@ void AjouterEntete(Texte& code, const TableauModele& tableau) {
 void AjouterLigne(Texte& code, const TableauModele& tableau, const LigneModele& ligne,
                   const Texte& texteDefaut) {
     code += '[' + std::to_string(ligne.hauteur) + ';' + std::to_string(ligne.retrait) + ']';
+    // The reader takes a digit and "@" off the front of a cell (of a label only in mode "d"):
+    // a text that begins so gets the line's year in front, to read back as it was.
+    const auto annee = [&](const Texte& texte, bool ecrite) {
+        if (ecrite || (texte.size() > 1 && texte[1] == '@')) {
+            code += Chiffre(ligne.annee);
+            code += '@';
+        }
+    };
+    const bool multiDossier = tableau.multiDossier == 1;
     for (int c = 0; c < tableau.ColonnesLibelle(); ++c) {
         const CelluleModele& cellule = ligne.cellules[static_cast<std::size_t>(c)];
         code += '[';
+        if (multiDossier) annee(cellule.texte, false);
         code += cellule.texte;
         AjouterFormat(code, cellule.formatTexte, cellule.formatCadre, texteDefaut);
         code += ']';
     }
     code += '[';
-    if (tableau.multiDossier == 1 && ligne.definition.starts_with("serie")) {
-        code += Chiffre(ligne.annee);
-        code += '@';
-    }
+    annee(ligne.definition, multiDossier && ligne.definition.starts_with("serie"));
     code += ligne.definition;
     AjouterFormat(code, ligne.formatTexte, ligne.formatCadre, texteDefaut);
     code += ']';
@@ -89,7 +96,8 @@ Texte FormatTexteDefaut(const Options& options) {
            (alignement.empty() ? Texte("l") : alignement);
 }
 
-Texte CodeModele(const TableauModele& tableau, const Options& options, int& ligneIncomplete) {
+Texte CodeModele(const TableauModele& tableau, const Options& options, int& ligneIncomplete,
+                 bool toutesLesLignes) {
     const Texte texteDefaut = FormatTexteDefaut(options);
     ligneIncomplete = 0;
     Texte code;
@@ -97,9 +105,9 @@ Texte CodeModele(const TableauModele& tableau, const Options& options, int& lign
     const int nbLignes = std::min<int>(tableau.nbLignes(), kMaxLignesTableau);
     for (int n = 1; n <= nbLignes; ++n) {
         const LigneModele& ligne = *tableau.Ligne(n);
-        if (Rogner(ligne.definition).empty()) {
+        if (Rogner(ligne.definition).empty() && ligneIncomplete == 0) {
             ligneIncomplete = n;
-            break;
+            if (!toutesLesLignes) break;
         }
         if (n > 1) code += '#';
         AjouterLigne(code, tableau, ligne, texteDefaut);

@@ -21,8 +21,9 @@ Texte FormatComplet(const Texte& format, std::string_view defaut);
 
 // The code of a model. Writing stops at the first line whose definition is empty: its number
 // goes to `ligneIncomplete` (0 when every line is defined) and the code ends behind the lines
-// before it.
-Texte CodeModele(const TableauModele& tableau, const Options& options, int& ligneIncomplete);
+// before it; with `toutesLesLignes` (the library's own copy) every line is written all the same.
+Texte CodeModele(const TableauModele& tableau, const Options& options, int& ligneIncomplete,
+                 bool toutesLesLignes = false);
 
 // The code of table `numero` (from 1) of the loaded tables. At a line without definition, the
 // silent mode gives an empty code; the other tells the user and gives the code of the lines

@@ -165,6 +165,26 @@ Texte TitreSerieRepetee(TypeLigne type) {
     }
 }
 
+std::vector<NoeudElement> ElementsSerieRepetee(TypeLigne type) {
+    switch (type) {
+    case TypeLigne::SerieCulture:
+        return ArbreElements(CatalogueCultures());
+    case TypeLigne::SerieCulturePerenne:
+        return ArbreElements(CataloguePerennes());
+    case TypeLigne::SerieActivite:
+        return ArbreElements(CatalogueAnimaux(), 1);
+    default:
+        return {};
+    }
+}
+
+Texte CleSerieRepetee(const NoeudElement& noeud) {
+    if (noeud.image == "rep") return {};
+    Texte cle = noeud.cle.substr(0, noeud.cle.rfind('#'));
+    if (CommencePar(cle, "ALani:")) cle.erase(0, 6);
+    return cle;
+}
+
 bool RemplacerLibelle(Contexte& ctx, const Texte& actuel, const Texte& nouveau) {
     if (Rogner(nouveau).empty() || Rogner(actuel) == Rogner(nouveau)) return false;
     return ctx.utilisateur.Question("Remplacer le libellé actuel \"" + actuel + "\" par \"" +

@@ -3,6 +3,7 @@
 // definitions of series, totals, crop and activity lines, the lists of decimals and zero
 // rules, the catalogue of pre-defined lines, and the lines whose values can't be defined.
 
+#include "domain/Catalogues.h"
 #include "shell/etat/Contexte.h"
 #include "tables/EditeurTableaux.h"
 
@@ -58,6 +59,12 @@ Texte FormuleStockee(const Texte& saisie);
 // and the end of the dialog's title ("cultures"...); empty for the other kinds.
 Texte MotSerieRepetee(TypeLigne type);
 Texte TitreSerieRepetee(TypeLigne type);
+// The items offered for the value of a repeated table's line, as a tree (parents first): the
+// catalogue of crops, of perennial crops or of free animal activities, by the kind of line.
+std::vector<NoeudElement> ElementsSerieRepetee(TypeLigne type);
+// The key a chosen node writes in the definition: a crop's "@" code ("@14"), an activity's
+// record number ("24"); empty for a folder.
+Texte CleSerieRepetee(const NoeudElement& noeud);
 
 // Asks whether the series' label replaces the first cell's text; true when it should. Not
 // asked when the texts are equal or the label is empty.

@@ -261,19 +261,9 @@ bool EditeurTableaux::Ouvrir() {
         ctx_.utilisateur.Question("Gérer les tableaux du PDE Cerfa ?", "Mode accès total",
                                   Boutons::OuiNon, Reponse::Non, Icone::Question) == Reponse::Oui)
         chemin_ = ctx_.etat.chemins.RepModlDocs + "PDE\\tableaux.txt";
-    ChargerTableaux(ctx_, chemin_, true);
-    // A library whose reading stopped at a broken entry is not written back unasked.
-    const auto contenu = LireFichier(chemin_);
-    std::size_t entrees = 0;
-    if (contenu) {
-        std::size_t debut = 0;
-        while (debut < contenu->size()) {
-            if ((*contenu)[debut] == '[') ++entrees;
-            const std::size_t fin = contenu->find('\n', debut);
-            if (fin == std::string::npos) break;
-            debut = fin + 1;
-        }
-    }
+    // The lines of a table are read when it is opened; a library whose reading stopped at a
+    // broken entry is not written back unasked.
+    const std::size_t entrees = ChargerTableaux(ctx_, chemin_, false);
     lisible_ = entrees <= Tableaux().size();
     if (!lisible_)
         ctx_.utilisateur.AfficherMessage(
@@ -292,7 +282,9 @@ void EditeurTableaux::Selectionner(int numero) {
 }
 
 TableauModele* EditeurTableaux::Tableau() {
-    return ctx_.etat.tableaux.Tableau(courant_);
+    TableauModele* t = ctx_.etat.tableaux.Tableau(courant_);
+    if (t != nullptr) LireLignesEnAttente(*t);
+    return t;
 }
 
 bool EditeurTableaux::AjouterTableau(const Texte& dossier, const Texte& sousDossier) {
@@ -512,8 +504,11 @@ int EditeurTableaux::Recuperer(const Texte& code) {
     Texte c = Rogner(code);
     if (CommencePar(c, "#mrl(") && FinitPar(c, ")#")) c = c.substr(5, c.size() - 7);
     for (std::size_t i = 0; i < Tableaux().size(); ++i) {
+        // A table not opened is compared by its code as the library holds it.
+        const TableauModele& lu = Tableaux()[i];
         int incomplete = 0;
-        if (CodeModele(Tableaux()[i], ctx_.etat.options, incomplete) == c) {
+        if (lu.source.lignesEnAttente ? lu.source.Code() == c
+                                      : CodeModele(lu, ctx_.etat.options, incomplete) == c) {
             courant_ = static_cast<int>(i + 1);
             return courant_;
         }

@@ -6,6 +6,7 @@
 
 #include <array>
 #include <cstdint>
+#include <string_view>
 #include <vector>
 
 namespace verdane {
@@ -58,6 +59,20 @@ struct LigneModele {
     bool operator==(const LigneModele&) const = default;
 };
 
+// Where a table of a library was read from: its entry's text as it stood in the file (from its
+// "[" line up to the next entry) and where its code lies in it. While `lignesEnAttente`, the
+// lines have not been read: they are, from the code, when the table is opened. Not part of the
+// model's value: two models are equal whatever they were read from.
+struct SourceTableau {
+    Texte entree;
+    std::size_t debutCode = 0;
+    std::size_t tailleCode = 0;
+    bool lignesEnAttente = false;
+
+    std::string_view Code() const { return std::string_view(entree).substr(debutCode, tailleCode); }
+    bool operator==(const SourceTableau&) const { return true; }
+};
+
 struct TableauModele {
     Texte nom;
     Texte dossier;
@@ -78,6 +93,7 @@ struct TableauModele {
     std::int16_t rouge = 0; // 1: negative values in red
     // The lines, at most kMaxLignesTableau; line n is lignes[n-1].
     std::vector<LigneModele> lignes;
+    SourceTableau source;
 
     std::int16_t nbLignes() const { return static_cast<std::int16_t>(lignes.size()); }
     // Line n counted from 1; null outside 1..nbLignes.

@@ -70,22 +70,39 @@ TEST_F(BibliothequeTableaux, EcritureEtRelectureSansPerte) {
     EXPECT_TRUE(utilisateur.messages.empty());
 }
 
-TEST_F(BibliothequeTableaux, SansDetailNiLignes) {
-    TableauModele a = ModeleComplet();
-    a.nom = "A";
-    a.dossier = "D";
-    a.multiDossier = 1;
-    a.nbDossiers = 5;
-    a.genre = kTableauActiviteLibre; // not written in mode "d"
-    const Texte texte = TexteTableaux({a}, Options{});
-    const auto tableaux = LireTexteTableaux(texte, false);
-    ASSERT_EQ(tableaux.size(), 1u);
-    EXPECT_EQ(tableaux[0].nom, "A");
-    EXPECT_EQ(tableaux[0].nbDossiers, 5);
-    EXPECT_EQ(tableaux[0].nbColonnes, 2);
-    EXPECT_EQ(tableaux[0].largeurValeurs, 9000);
-    EXPECT_EQ(tableaux[0].genre, kTableauClassique);
-    EXPECT_EQ(tableaux[0].nbLignes(), 0);
+TEST_F(BibliothequeTableaux, UnTableauNonOuvertEstReecritOctetPourOctet) {
+    // Entries as another hand wrote them: line ends, blanks, lines between, short formats.
+    const Texte a =
+        "[A][Bovins][Lait]\n  #mrl(taba2p1;larg1;larg2([280;120][Lait;1][serie:X-1]))#\n"
+        "commentaire\r\n\r\n";
+    const Texte b = "[B][][]\r\n#mrl(tabd3p2;larg5;larg6;larg7([0;0][x][y][espace]))#\r\n";
+    const Texte c = "[C][Divers][]\r#mrl(cultper2tab)#";
+    const auto lus = LireTexteTableaux("avant\r\n" + a + b + c, false);
+    ASSERT_EQ(lus.size(), 3u);
+    // Names, folders and heads are read at once, the lines only when the table is opened.
+    EXPECT_EQ(lus[0].sousDossier + lus[1].dossier, "LaitDivers");
+    EXPECT_EQ(lus[1].nbDossiers, 3);
+    EXPECT_EQ(lus[2].genre, kTableauCulturePerenne);
+    EXPECT_EQ(lus[1].nbLignes(), 0);
+    EXPECT_EQ(TexteTableaux(lus, Options{}), a + b + c);
+
+    Tableaux() = lus;
+    LireLignesEnAttente(Tableaux()[1]);
+    ASSERT_EQ(Tableaux()[1].nbLignes(), 1);
+    EXPECT_EQ(Tableaux()[1].Ligne(1)->cellules[1].texte, "y");
+    EXPECT_EQ(TexteTableaux(Tableaux(), Options{}), a + b + c); // opened, not changed
+    // A changed table is written from its model; a table moved to another folder without being
+    // opened keeps its lines; the others stay as they were.
+    Tableaux()[1].Ligne(1)->definition = "newpg";
+    Tableaux()[0].dossier = "Divers";
+    const Texte texte = TexteTableaux(Tableaux(), Options{});
+    EXPECT_EQ(texte.substr(texte.size() - c.size()), c);
+    const auto relus = LireTexteTableaux(texte, true);
+    ASSERT_EQ(relus.size(), 3u);
+    EXPECT_EQ(relus[0].dossier, "Divers");
+    EXPECT_EQ(relus[0].Ligne(1)->definition, "serie:X-1");
+    EXPECT_EQ(relus[1].Ligne(1)->definition, "newpg");
+    EXPECT_EQ(relus[1].nbDossiers, 3);
 }
 
 TEST_F(BibliothequeTableaux, LignesDEntreeMalFormees) {
@@ -142,20 +159,18 @@ TEST_F(BibliothequeTableaux, FichierAbsentOuVide) {
     EXPECT_TRUE(utilisateur.messages.empty());
 }
 
-TEST_F(BibliothequeTableaux, BibliothequePDEEtTableauIncomplet) {
+TEST_F(BibliothequeTableaux, UnTableauIncompletSeSauveEnEntier) {
     TableauModele a = ModeleComplet();
     a.nom = "Page 3";
     a.dossier = "PDE";
     a.lignes[4].definition.clear();
     Tableaux() = {a};
-    const Texte chemin = CheminTexte(dossier) + "\\pde\\TABLEAUX.TXT";
     ASSERT_TRUE(EcrireTableaux(ctx, Chemin("PDE/tableaux.txt")));
-    EXPECT_EQ(LireFichier(chemin), Texte("[Page 3][PDE][]\r\n#mrl()#\r\n\r\n"));
     EXPECT_TRUE(utilisateur.messages.empty()); // the library is written silently
-    ChargerTableaux(ctx, chemin, true);
+    // Found again whatever the case of its name; its line to define is still there.
+    ChargerTableaux(ctx, CheminTexte(dossier) + "\\pde\\TABLEAUX.TXT", true);
     ASSERT_EQ(Tableaux().size(), 1u);
-    EXPECT_EQ(Tableaux()[0].nom, "Page 3");
-    EXPECT_EQ(Tableaux()[0].nbLignes(), 0);
+    EXPECT_EQ(Tableaux()[0], a);
 }
 
 } // namespace

@@ -154,17 +154,13 @@ TEST_F(Formules, LongueFormuleSansRelecture) {
     EXPECT_EQ(Valeur(f, 2), 10 + 20000 * 1.5);
 }
 
-class FormulesEvaluees : public Formules {
-protected:
-    void SetUp() override {
-        Formules::SetUp();
-        if (FormatNombre(1.0f, 0, false).empty()) GTEST_SKIP() << "number formats not in yet";
-    }
-    Texte Nombre(float v, std::int16_t d) { return FormatNombre(v, d, false, ctx.etat.marques); }
-    Texte Evaluer(const Texte& f, int colonne) { return EvaluerFormule(ctx, f, colonne, tableau); }
-};
-
-TEST_F(FormulesEvaluees, ResultatMisEnForme) {
+TEST_F(Formules, ResultatMisEnFormeEtIllisibleCompteZero) {
+    const auto Nombre = [&](float v, std::int16_t d) {
+        return FormatNombre(v, d, false, ctx.etat.marques);
+    };
+    const auto Evaluer = [&](const Texte& f, int colonne) {
+        return EvaluerFormule(ctx, f, colonne, tableau);
+    };
     EXPECT_EQ(Evaluer("LG1*LG3:2", 2), Nombre(15, 2));
     EXPECT_EQ(Evaluer("LG1/3:1", 2), Nombre(10.0f / 3, 1));
     EXPECT_EQ(Evaluer("LG1/3", 2), Nombre(10.0f / 3, 7)); // automatic decimals
@@ -172,9 +168,6 @@ TEST_F(FormulesEvaluees, ResultatMisEnForme) {
     // A comma between arguments becomes a decimal mark as well.
     EXPECT_EQ(Evaluer("MAX(2,5):1", 2), Nombre(2.5f, 1));
     EXPECT_EQ(Evaluer("LG(VL-1!A2)+1:0", 5), Nombre(103, 0));
-}
-
-TEST_F(FormulesEvaluees, IllisibleCompteZero) {
     for (const char* f : {"LG1/0:2", "FOO(LG1):2", "(LG1:2", "LG1+LG(VL-5:2", "LG600:2", ":2"})
         EXPECT_EQ(Evaluer(f, 2), Nombre(0, 2)) << f;
     EXPECT_EQ(Evaluer("LG:2", 2), Nombre(0, 2));
@@ -252,9 +245,6 @@ TEST(RenumeroterFormule, InsertionEtSuppression) {
         EXPECT_EQ(autre, avant);
     }
     EXPECT_TRUE(temoin.messages.empty());
-}
-
-TEST(LignesReferencees, DansLOrdre) {
     EXPECT_EQ(LignesReferencees("LG3+LG(VL-5)*LG12-LGX/LG1"), (std::vector<int>{3, 12, 1}));
     EXPECT_TRUE(LignesReferencees("LG(VL-5)").empty());
 }

@@ -70,15 +70,10 @@ TEST(LireEnteteTableau, PiecesPresentesAbsentesOuIllisibles) {
         std::int16_t largeurValeurs;
     };
     const Cas cas[] = {
-        {"tabd4p3cr2;larg1500;larg900;larg700;larg8000([280;120])",
-         1,
-         4,
-         3,
-         1,
-         1,
-         2,
-         {1500, 900, 700},
-         8000},
+        // clang-format off
+        {"tabd4p3cr2;larg1500;larg900;larg700;larg8000([280;120])", 1, 4, 3, 1, 1, 2,
+         {1500, 900, 700}, 8000},
+        // clang-format on
         {"tab([280;120][a;b])", 0, 2, 1, 0, 0, 0, {1000, 1000, 1000}, 7200},
         // Missing label widths stay at 1000, a value width without its ";larg" at 7200.
         {"taba2p3;larg2000(", 0, 2, 3, 0, 0, 0, {2000, 1000, 1000}, 7200},
@@ -203,18 +198,6 @@ TEST(LireLignesTableau, CrochetsDesequilibres) {
     EXPECT_EQ(sans.nbDossiers, 5);
 }
 
-TEST(LireLignesTableau, LimiteDe511Lignes) {
-    Texte lignes;
-    for (int n = 1; n <= 600; ++n) {
-        if (n > 1) lignes += '#';
-        lignes += "[280;120][L" + std::to_string(n) + ";" + kFormat + "][espace;" + kFormat + "]";
-    }
-    const TableauModele t = LireCodeTableau("taba2p1;larg1;larg2(" + lignes + ")");
-    ASSERT_EQ(t.nbLignes(), 511);
-    EXPECT_EQ(t.Ligne(511)->cellules[0].texte, "L511");
-    EXPECT_EQ(t.Ligne(512), nullptr);
-}
-
 TEST(LireLignesTableau, ColonnesDeLibelleDuModele) {
     // The lines are read with the label columns the slot holds, which the head set.
     const Texte code = "taba2p2;larg1;larg2;larg3([1;2][a][b][c])";
@@ -229,27 +212,6 @@ TEST(LireLignesTableau, ColonnesDeLibelleDuModele) {
     LireLignesTableau(code, t);
     EXPECT_EQ(t.Ligne(1)->cellules[8].texte, "erreur");
 }
-
-TEST(LireCodeTableau, CodeCoupeNImporteOu) {
-    const Texte code = Texte("culture15tabd3p2cr1;larg2000;larg500;larg7200([280;120][3@A_b;") +
-                       kFormat + "][x;" + kFormat + "][4@serie:A.DON+A-1:0:1;" + kFormat +
-                       "]#[0;0][C;" + kFormat + "][;" + kFormat + "][totalC:LG1*2;" + kFormat +
-                       "]#[280;120][E][][espace])";
-    const TableauModele complet = LireCodeTableau(code);
-    ASSERT_EQ(complet.nbLignes(), 3);
-    for (std::size_t n = 0; n <= code.size(); ++n) {
-        const TableauModele t = LireCodeTableau(std::string_view(code).substr(0, n));
-        EXPECT_LE(t.nbLignes(), 3) << n;
-        EXPECT_GE(t.nbColonnes, 0);
-        EXPECT_LE(t.nbColonnes, 9);
-    }
-}
-
-} // namespace
-} // namespace verdane
-
-namespace verdane {
-namespace {
 
 TEST(LectureCodeParNumero, LectureDansUnEmplacement) {
     UtilisateurMuet utilisateur;

@@ -1,12 +1,11 @@
 #include "tables/qt/FrmDefCell.h"
 
 #include "graphs/qt/RenduGraphique.h"
-#include "utils/GestFontTable.h"
+#include "tables/qt/ListesFormat.h"
 
 #include <QComboBox>
 #include <QFormLayout>
 #include <QHBoxLayout>
-#include <QPixmap>
 #include <QPushButton>
 
 namespace verdane::qt {
@@ -27,13 +26,7 @@ FrmDefCell::FrmDefCell(const Cadre& cadre, QWidget* parent) : QDialog(parent) {
     }
     ComboFond = new QComboBox(this);
     ComboFond->setObjectName("ComboFond");
-    const auto& palette = Palette();
-    for (int i = 1; i <= 16; ++i) {
-        const Couleur& c = palette[static_cast<std::size_t>(i)];
-        QPixmap pastille(24, 14);
-        pastille.fill(QColor(c.rouge, c.vert, c.bleu));
-        ComboFond->addItem(QIcon(pastille), QString::number(i));
-    }
+    RemplirCouleurs(ComboFond, 24);
     ComboFond->setCurrentIndex(cadre.fond - 1);
     formulaire->addRow(VersQt("Couleur de fond :"), ComboFond);
 

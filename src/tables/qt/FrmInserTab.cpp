@@ -10,6 +10,7 @@
 #include "tables/qt/FrmParamTab.h"
 #include "tables/qt/FrmTailleTab.h"
 #include "tables/qt/FrmTexte.h"
+#include "tables/qt/OutilsDialogues.h"
 #include "utils/Chaines.h"
 #include "utils/qt/Boutons.h"
 
@@ -34,7 +35,6 @@ namespace verdane::qt {
 
 namespace {
 
-constexpr int kRoleCle = Qt::UserRole;
 // Periods of the autosave, in minutes; 5 is proposed.
 constexpr int kPeriodes[] = {1, 2, 3, 4, 5, 15, 30};
 

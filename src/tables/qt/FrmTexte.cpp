@@ -1,21 +1,27 @@
 #include "tables/qt/FrmTexte.h"
 
-#include "data/SeriesProposees.h"
 #include "graphs/qt/RenduGraphique.h"
+#include "tables/DialoguesCellule.h"
 #include "tables/DialoguesLigne.h"
 #include "tables/Formules.h"
+#include "tables/qt/FrmTotaliser.h"
+#include "tables/qt/ListesFormat.h"
 #include "tables/qt/OutilsDialogues.h"
 #include "utils/Chaines.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFormLayout>
+#include <QGridLayout>
+#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QTabWidget>
 #include <QTreeWidget>
+#include <QTreeWidgetItemIterator>
 #include <QVBoxLayout>
 
 #include <map>
@@ -24,7 +30,6 @@ namespace verdane::qt {
 
 namespace {
 
-constexpr int kRoleCle = Qt::UserRole;
 enum Page { kPageEntete, kPageSerie, kPageEspace, kPageTotal, kPagePredefinies, kPageRepetee };
 
 Page PageDuType(TypeLigne type) {
@@ -44,15 +49,6 @@ Page PageDuType(TypeLigne type) {
     }
 }
 
-void AjouterCatalogue(QTreeWidgetItem* parent, const NoeudCatalogue& noeud) {
-    for (const NoeudCatalogue& n : noeud.enfants) {
-        auto* item = new QTreeWidgetItem(parent);
-        item->setText(0, VersQt(n.texte));
-        item->setData(0, kRoleCle, VersQt(n.cle));
-        AjouterCatalogue(item, n);
-    }
-}
-
 QWidget* NouvellePage(QStackedWidget* pile, QLayout*& disposition) {
     // The page before keeps its widgets at the top.
     if (auto* avant = qobject_cast<QVBoxLayout*>(disposition)) avant->addStretch(1);
@@ -65,8 +61,10 @@ QWidget* NouvellePage(QStackedWidget* pile, QLayout*& disposition) {
 } // namespace
 
 FrmTexte::FrmTexte(Contexte& ctx, const TableauModele& tableau, int numero, QWidget* parent)
-    : QDialog(parent), ctx_(ctx), tableau_(tableau), numero_(numero) {
-    if (const LigneModele* l = tableau.Ligne(numero)) ligne_ = *l;
+    : QDialog(parent), ctx_(ctx), tableau_(tableau), numero_(numero),
+      formats_(tableau.Ligne(numero) ? *tableau.Ligne(numero) : LigneModele{},
+               tableau.ColonnesLibelle(), ctx.etat.options) {
+    const LigneModele& ligne = formats_.Ligne();
     setObjectName("FrmTexte");
     setWindowTitle(VersQt("Définition de la ligne n°" + std::to_string(numero)));
     auto* tout = new QVBoxLayout(this);
@@ -75,10 +73,10 @@ FrmTexte::FrmTexte(Contexte& ctx, const TableauModele& tableau, int numero, QWid
     ComboGenre = new QComboBox(this);
     ComboGenre->setObjectName("ComboGenre");
     for (const Texte& t : TextesTypesLigne()) ComboGenre->addItem(VersQt(t));
-    ComboGenre->setCurrentIndex(static_cast<int>(TypeDeLigne(ligne_)));
+    ComboGenre->setCurrentIndex(static_cast<int>(TypeDeLigne(ligne)));
     formulaire->addRow(VersQt("Type de ligne :"), ComboGenre);
     for (int c = 0; c < tableau.ColonnesLibelle(); ++c) {
-        auto* b = new QLineEdit(VersQt(ligne_.cellules[static_cast<std::size_t>(c)].texte), this);
+        auto* b = new QLineEdit(VersQt(ligne.cellules[static_cast<std::size_t>(c)].texte), this);
         b->setObjectName(QStringLiteral("txtLibelle%1").arg(c + 1));
         // A line end can't stand in a cell's text.
         connect(b, &QLineEdit::returnPressed, this, [this] {
@@ -91,6 +89,48 @@ FrmTexte::FrmTexte(Contexte& ctx, const TableauModele& tableau, int numero, QWid
         txtLibelle.push_back(b);
         formulaire->addRow(VersQt("Libellé " + std::to_string(c + 1) + " :"), b);
     }
+
+    // The text format of one cell at a time.
+    auto* format = new QGroupBox(VersQt("Mise en forme du texte"), this);
+    auto* df = new QGridLayout(format);
+    ComboCellule = new QComboBox(format);
+    ComboCellule->setObjectName("ComboCellule");
+    ComboCellule->addItem(VersQt("Cellules de valeurs"));
+    for (int c = 1; c <= tableau.ColonnesLibelle(); ++c)
+        ComboCellule->addItem(VersQt("Libellé " + std::to_string(c)));
+    ComboPolice = new QComboBox(format);
+    ComboPolice->setObjectName("ComboPolice");
+    RemplirPolices(ComboPolice);
+    ComboTaille = new QComboBox(format);
+    ComboTaille->setObjectName("ComboTaille");
+    for (int t : {6, 7, 8, 9, 10, 11, 12, 14, 16, 18, 20, 24, 28, 36})
+        ComboTaille->addItem(QString::number(t), t);
+    ComboCouleur = new QComboBox(format);
+    ComboCouleur->setObjectName("ComboCouleur");
+    RemplirCouleurs(ComboCouleur, 14);
+    ComboAlignement = new QComboBox(format);
+    ComboAlignement->setObjectName("ComboAlignement");
+    for (const Texte& t : TextesAlignements()) ComboAlignement->addItem(VersQt(t));
+    CheckGras = new QCheckBox(VersQt("Gras"), format);
+    CheckItalique = new QCheckBox(VersQt("Italique"), format);
+    CheckSouligne = new QCheckBox(VersQt("Souligné"), format);
+    CheckBarre = new QCheckBox(VersQt("Barré"), format);
+    CheckOmbre = new QCheckBox(VersQt("Ombré"), format);
+    CheckGras->setObjectName("CheckGras");
+    CheckItalique->setObjectName("CheckItalique");
+    CheckSouligne->setObjectName("CheckSouligne");
+    CheckBarre->setObjectName("CheckBarre");
+    CheckOmbre->setObjectName("CheckOmbre");
+    df->addWidget(ComboCellule, 0, 0, 1, 2);
+    df->addWidget(ComboPolice, 0, 2, 1, 2);
+    df->addWidget(ComboTaille, 0, 4);
+    df->addWidget(ComboCouleur, 1, 0);
+    df->addWidget(ComboAlignement, 1, 1);
+    int colonne = 2;
+    for (QCheckBox* c : {CheckGras, CheckItalique, CheckSouligne}) df->addWidget(c, 1, colonne++);
+    df->addWidget(CheckBarre, 2, 2);
+    df->addWidget(CheckOmbre, 2, 3);
+    tout->addWidget(format);
 
     lblTitre = new QLabel(this);
     lblTitre->setObjectName("lblTitre");
@@ -128,12 +168,7 @@ FrmTexte::FrmTexte(Contexte& ctx, const TableauModele& tableau, int numero, QWid
     NouvellePage(PagesValeurs, d);
     TreeViewSeries = new QTreeWidget(this);
     TreeViewSeries->setObjectName("TreeViewSeries");
-    TreeViewSeries->setHeaderHidden(true);
-    const ArbreCatalogue series = SeriesProposees(ctx.etat.chemins.RepDatacfg);
-    auto* racine = new QTreeWidgetItem(TreeViewSeries);
-    racine->setText(0, VersQt(series.racine.texte));
-    AjouterCatalogue(racine, series.racine);
-    racine->setExpanded(true);
+    RemplirSeries(TreeViewSeries, ctx.etat.chemins.RepDatacfg);
     d->addWidget(TreeViewSeries);
 
     // Spacing: nothing to define.
@@ -172,7 +207,11 @@ FrmTexte::FrmTexte(Contexte& ctx, const TableauModele& tableau, int numero, QWid
     auto* cmdClair = new QPushButton(VersQt("Formule en clair"), libre);
     cmdClair->setObjectName("cmdFormuleClair");
     cmdClair->setAutoDefault(false);
+    cmdTotaliser = new QPushButton(VersQt("Composer la formule..."), libre);
+    cmdTotaliser->setObjectName("cmdTotaliser");
+    cmdTotaliser->setAutoDefault(false);
     dl->addWidget(txtFormule);
+    dl->addWidget(cmdTotaliser);
     dl->addWidget(cmdClair);
     OngletsTotal->addTab(libre, VersQt("Formule"));
     d->addWidget(OngletsTotal);
@@ -194,12 +233,12 @@ FrmTexte::FrmTexte(Contexte& ctx, const TableauModele& tableau, int numero, QWid
     TreeViewPredefinies->expandAll();
     d->addWidget(TreeViewPredefinies);
 
-    // Value of the crop or activity of a repeated table, by its key.
+    // Value of the crop or activity of a repeated table, chosen in the catalogue of its kind.
     NouvellePage(PagesValeurs, d);
-    txtCle = new QLineEdit(this);
-    txtCle->setObjectName("txtCle");
-    d->addWidget(new QLabel(VersQt("Clé de la valeur :"), this));
-    d->addWidget(txtCle);
+    TreeViewElements = new QTreeWidget(this);
+    TreeViewElements->setObjectName("TreeViewElements");
+    TreeViewElements->setHeaderHidden(true);
+    d->addWidget(TreeViewElements);
 
     static_cast<QVBoxLayout*>(d)->addStretch(1);
     auto* communs = new QFormLayout;
@@ -211,7 +250,7 @@ FrmTexte::FrmTexte(Contexte& ctx, const TableauModele& tableau, int numero, QWid
     for (const Texte& t : TextesReglesZero()) ComboRegleZero->addItem(VersQt(t));
     communs->addRow(VersQt("Décimales :"), ComboDecimales);
     communs->addRow(VersQt("Valeurs nulles :"), ComboRegleZero);
-    txtDefinition = new QLineEdit(VersQt(ligne_.definition), this);
+    txtDefinition = new QLineEdit(VersQt(ligne.definition), this);
     txtDefinition->setObjectName("txtDefinition");
     communs->addRow(VersQt("Définition des valeurs :"), txtDefinition);
     tout->addLayout(communs);
@@ -231,13 +270,25 @@ FrmTexte::FrmTexte(Contexte& ctx, const TableauModele& tableau, int numero, QWid
                            tableau_.ColonnesLibelle());
         for (std::size_t c = 0; c < txtLibelle.size(); ++c)
             txtLibelle[c]->setText(VersQt(l.cellules[c].texte));
-        ligne_ = l;
+        const int cellule = formats_.Cellule();
+        formats_ = FormatsLigne(l, tableau_.ColonnesLibelle(), ctx_.etat.options);
+        formats_.Choisir(cellule);
+        MontrerPage();
         Relire(l.definition);
         txtDefinition->setText(VersQt(l.definition));
-        MontrerPage();
+        MontrerFormat();
     });
+    connect(ComboCellule, &QComboBox::currentIndexChanged, this, [this](int cellule) {
+        if (chargement_) return;
+        formats_.Choisir(cellule);
+        MontrerFormat();
+    });
+    for (QComboBox* c : {ComboPolice, ComboTaille, ComboCouleur, ComboAlignement})
+        connect(c, &QComboBox::currentIndexChanged, this, [this] { PrendreFormat(); });
+    for (QCheckBox* c : {CheckGras, CheckItalique, CheckSouligne, CheckBarre, CheckOmbre})
+        connect(c, &QCheckBox::toggled, this, [this] { PrendreFormat(); });
     connect(ComboFormeEntete, &QComboBox::currentIndexChanged, this, [this] { Composer(); });
-    for (QLineEdit* e : {txtDebut, txtFin, txtCle, txtFormule})
+    for (QLineEdit* e : {txtDebut, txtFin, txtFormule})
         connect(e, &QLineEdit::textEdited, this, [this] { Composer(); });
     for (QComboBox* c : {ComboLigneA, ComboOperateur, ComboLigneB, ComboDecimales, ComboRegleZero})
         connect(c, &QComboBox::currentIndexChanged, this, [this] { Composer(); });
@@ -248,6 +299,13 @@ FrmTexte::FrmTexte(Contexte& ctx, const TableauModele& tableau, int numero, QWid
         Composer();
     });
     connect(TreeViewPredefinies, &QTreeWidget::currentItemChanged, this, [this] { Composer(); });
+    connect(TreeViewElements, &QTreeWidget::currentItemChanged, this, [this] { Composer(); });
+    connect(cmdTotaliser, &QPushButton::clicked, this, [this] {
+        FrmTotaliser f(ctx_, tableau_, numero_, FormuleStockee(DepuisQt(txtFormule->text())), this);
+        if (f.exec() != QDialog::Accepted) return;
+        txtFormule->setText(VersQt(f.Formule()));
+        Composer();
+    });
     connect(cmdClair, &QPushButton::clicked, this, [this] {
         TableauFormule t;
         t.modeAnnees = tableau_.modeAnnees;
@@ -264,10 +322,11 @@ FrmTexte::FrmTexte(Contexte& ctx, const TableauModele& tableau, int numero, QWid
         ctx_.utilisateur.Boite(clair, "Formule en clair :", Icone::Information);
     });
 
-    Relire(ligne_.definition);
-    MontrerExemple();
     MontrerPage();
-    DefinitionPermise(ctx_, tableau_, ligne_, Type());
+    Relire(ligne.definition);
+    MontrerExemple();
+    MontrerFormat();
+    DefinitionPermise(ctx_, tableau_, formats_.Ligne(), Type());
     resize(560, 620);
 }
 
@@ -286,6 +345,7 @@ void FrmTexte::MontrerPage() {
     if (page == kPageRepetee)
         titre = "Définition d'une ligne de valeurs pour les " + TitreSerieRepetee(type);
     lblTitre->setText(VersQt(titre));
+    RemplirElements();
     const bool valeurs = page == kPageSerie || page == kPageTotal || page == kPageRepetee;
     ComboDecimales->setEnabled(valeurs);
     ComboRegleZero->setEnabled(valeurs);
@@ -302,7 +362,11 @@ void FrmTexte::Relire(const Texte& definition) {
     const DefinitionValeurs v = LireValeurs(definition);
     ComboDecimales->setCurrentIndex(ChoixDeDecimales(v.decimales));
     ComboRegleZero->setCurrentIndex(v.regleZero);
-    txtCle->setText(VersQt(v.code));
+    for (QTreeWidgetItemIterator i(TreeViewElements); *i; ++i)
+        if (!v.code.empty() && (*i)->data(0, kRoleCle).toString() == VersQt(v.code)) {
+            TreeViewElements->setCurrentItem(*i);
+            break;
+        }
     int a = 0, b = 0;
     Texte op;
     if (v.mot == "totalS" && LireFormuleSimple(v.code, a, op, b)) {
@@ -373,8 +437,15 @@ void FrmTexte::Composer() {
         }
         break;
     case kPageRepetee:
+        // Only an item of the catalogue makes a key; a folder keeps the key chosen before.
         v.mot = MotSerieRepetee(type);
-        v.code = DepuisQt(txtCle->text());
+        if (QTreeWidgetItem* item = TreeViewElements->currentItem();
+            item && !item->data(0, kRoleCle).toString().isEmpty())
+            v.code = DepuisQt(item->data(0, kRoleCle).toString());
+        else if (LireValeurs(definition).mot == v.mot)
+            v.code = LireValeurs(definition).code;
+        else
+            break;
         definition = EcrireValeurs(v);
         break;
     case kPageEspace:
@@ -396,8 +467,54 @@ void FrmTexte::accept() {
     QDialog::accept();
 }
 
+void FrmTexte::RemplirElements() {
+    TreeViewElements->clear();
+    std::map<Texte, QTreeWidgetItem*> dossiers;
+    for (const NoeudElement& n : ElementsSerieRepetee(Type())) {
+        auto* item = n.parent.empty() ? new QTreeWidgetItem(TreeViewElements)
+                                      : new QTreeWidgetItem(dossiers[n.parent]);
+        item->setText(0, VersQt(n.libelle));
+        item->setData(0, kRoleCle, VersQt(CleSerieRepetee(n)));
+        if (n.image == "rep") dossiers[n.cle] = item;
+    }
+}
+
+void FrmTexte::MontrerFormat() {
+    const bool avant = chargement_;
+    chargement_ = true;
+    const StyleCellule s = formats_.Style();
+    ComboCellule->setCurrentIndex(formats_.Cellule());
+    ComboPolice->setCurrentIndex(s.police - kPremierePolice);
+    if (ComboTaille->findData(s.taille) < 0)
+        ComboTaille->addItem(QString::number(s.taille), s.taille);
+    ComboTaille->setCurrentIndex(ComboTaille->findData(s.taille));
+    ComboCouleur->setCurrentIndex(std::clamp(s.couleur, 1, 16) - 1);
+    ComboAlignement->setCurrentText(VersQt(TexteAlignement(s.alignement)));
+    CheckGras->setChecked(s.gras);
+    CheckItalique->setChecked(s.italique);
+    CheckSouligne->setChecked(s.souligne);
+    CheckBarre->setChecked(s.barre);
+    CheckOmbre->setChecked(s.ombre);
+    chargement_ = avant;
+}
+
+void FrmTexte::PrendreFormat() {
+    if (chargement_) return;
+    StyleCellule s;
+    s.police = kPremierePolice + ComboPolice->currentIndex();
+    s.taille = ComboTaille->currentData().toInt();
+    s.couleur = ComboCouleur->currentIndex() + 1;
+    s.alignement = AlignementDeTexte(DepuisQt(ComboAlignement->currentText()));
+    s.gras = CheckGras->isChecked();
+    s.italique = CheckItalique->isChecked();
+    s.souligne = CheckSouligne->isChecked();
+    s.barre = CheckBarre->isChecked();
+    s.ombre = CheckOmbre->isChecked();
+    formats_.Modifier(s);
+}
+
 LigneModele FrmTexte::Ligne() const {
-    LigneModele l = ligne_;
+    LigneModele l = formats_.Ligne();
     for (std::size_t c = 0; c < txtLibelle.size(); ++c)
         l.cellules[c].texte = TexteDeLibelle(DepuisQt(txtLibelle[c]->text()));
     l.definition = DepuisQt(txtDefinition->text());

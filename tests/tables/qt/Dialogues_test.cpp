@@ -6,6 +6,7 @@
 #include "shell/Options.h"
 #include "support/DossierTemporaire.h"
 #include "support/FauxUtilisateur.h"
+#include "tables/qt/FrmAddRmvL.h"
 #include "tables/qt/FrmDefCell.h"
 #include "tables/qt/FrmEnteteTab.h"
 #include "tables/qt/FrmInserTab.h"
@@ -13,11 +14,14 @@
 #include "tables/qt/FrmParamTab.h"
 #include "tables/qt/FrmTailleTab.h"
 #include "tables/qt/FrmTexte.h"
+#include "tables/qt/FrmTotaliser.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QSpinBox>
 #include <QStackedWidget>
 #include <QTabWidget>
@@ -110,6 +114,39 @@ TEST_F(DialoguesTest, LignesPredefiniesEtRefusDUnSautDePage) {
     EXPECT_TRUE(utilisateur.ADit("Les sauts de page ne sont pas paramétrables !"));
 }
 
+TEST_F(DialoguesTest, FormatsDuTexteEtValeursDesTableauxRepetes) {
+    FrmTexte d(ctx, tableau, 2);
+    d.ComboCellule->setCurrentIndex(1);
+    d.CheckGras->setChecked(false);
+    d.CheckItalique->setChecked(true);
+    d.ComboAlignement->setCurrentIndex(2);
+    d.ComboPolice->setCurrentIndex(10);
+    EXPECT_EQ(d.Ligne().cellules[0].formatTexte, "5010;10;1;0;1;0;0;0;r");
+    EXPECT_EQ(d.Ligne().formatTexte, tableau.lignes[1].formatTexte);
+
+    // The key of a crop's value is taken from the catalogue, not typed.
+    d.ComboGenre->setCurrentIndex(static_cast<int>(TypeLigne::SerieActivite));
+    const auto ugb = d.TreeViewElements->findItems("UGB", Qt::MatchExactly | Qt::MatchRecursive);
+    ASSERT_EQ(ugb.size(), 1);
+    d.TreeViewElements->setCurrentItem(ugb[0]);
+    EXPECT_EQ(d.Ligne().definition, "ALani:159:7:2");
+    d.TreeViewElements->setCurrentItem(ugb[0]->parent()); // a folder keeps the key
+    EXPECT_EQ(d.Ligne().definition, "ALani:159:7:2");
+}
+
+TEST_F(DialoguesTest, LaFormuleSeComposeDansFrmTotaliser) {
+    FrmTotaliser f(ctx, tableau, 3, "LG1");
+    ASSERT_EQ(f.ComboLignes->count(), 2);
+    for (QPushButton* b : f.findChildren<QPushButton*>())
+        if (b->text() == "+") b->click();
+    f.ComboLignes->setCurrentIndex(1);
+    f.cmdAjouterLigne->click();
+    EXPECT_EQ(f.Formule(), "LG1+LG2");
+    f.cmdAjouterSerie->click(); // no series chosen: told, nothing added
+    EXPECT_EQ(f.Formule(), "LG1+LG2");
+    EXPECT_FALSE(utilisateur.messages.empty());
+}
+
 TEST_F(DialoguesTest, LesParametresSontEnregistres) {
     FrmParamTab d(ctx);
     d.ComboTaille->setCurrentText("14");
@@ -174,6 +211,20 @@ TEST_F(DialoguesTest, Captures) {
     FrmTexte culture(ctx, t, 2);
     culture.ComboGenre->setCurrentIndex(static_cast<int>(TypeLigne::SerieCulture));
     saisir(culture, "FrmTexte-culture");
+    FrmTexte activite(ctx, t, 2);
+    activite.ComboGenre->setCurrentIndex(static_cast<int>(TypeLigne::SerieActivite));
+    activite.TreeViewElements->expandAll();
+    saisir(activite, "FrmTexte-activite");
+    FrmTotaliser totaliser(ctx, t, 4, "LG2+LG3");
+    saisir(totaliser, "FrmTotaliser");
+    for (const auto& [mode, nom] :
+         std::vector<std::pair<char, const char*>>{{'a', "FrmAddRmvL-ajout"},
+                                                   {'s', "FrmAddRmvL-suppression"},
+                                                   {'m', "FrmAddRmvL-deplacement"},
+                                                   {'d', "FrmAddRmvL-duplication"}}) {
+        FrmAddRmvL operation(mode, t.nbLignes(), 2);
+        saisir(operation, nom);
+    }
     FrmDefCell cellule(LireCadre("2;2;0;0;16"));
     saisir(cellule, "FrmDefCell");
     FrmLargeurTab largeur(0, 2, 7200);
