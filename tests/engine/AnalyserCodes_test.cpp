@@ -1,6 +1,5 @@
 #include "engine/AnalyserCodes.h"
 #include "engine/InterpreterCode.h"
-#include "engine/NettoyerCode.h"
 
 #include "DossierDeTest.h"
 #include "FauxUtilisateurMoteur.h"
@@ -87,38 +86,6 @@ TEST_F(Scanner, CodeCoupeParLeTraitementDeTexte) {
               "Dossier Test");
     EXPECT_EQ(m.Developper("#mrl(nom{\\loch\\hich\\f5 Doss}{\\b\\i ier})#"), "Dossier Test");
     EXPECT_TRUE(m.utilisateur.messages.empty());
-}
-
-TEST(NettoyerCode, OrdreDesRetraits) {
-    auto net = [](Texte c) {
-        NettoyerCode(c);
-        return c;
-    };
-    // "fs20" without its backslash: the backslash goes with a later rule.
-    EXPECT_EQ(net("a\\fs20 b"), "ab");
-    EXPECT_EQ(net("{\\plain\\caps\\lang2057 x}"), "x");
-    EXPECT_EQ(net("\\sect\\page y"), "y");
-    EXPECT_EQ(net("d\\s5\\lotusoutlinelevel0 z"), "z");
-    EXPECT_EQ(net("l\\rquote an\\lquote s \\'80"), "l'an's\x80");
-    EXPECT_EQ(net("a{\\*\\bkmkend DDE_LINK27}b"), "ab");
-    EXPECT_EQ(net("a{\\*\\bkmkstart OLE_LINK3}b{\\*\\bkmkend OLE_LINK3}c"), "astartOLE_LINK3bc");
-    EXPECT_EQ(net("xkmky"), "xy");
-    EXPECT_EQ(net("kmkkmkstartDDE_LINK1x"), "x");
-    EXPECT_EQ(net("kmkstartDDE_kmkLINK5y"), "startDDE_LINK5y");
-    EXPECT_EQ(net("a endOLE_LINK12 b"), "ab");
-    EXPECT_EQ(net(""), "");
-    EXPECT_EQ(net("VLVB.don+VLVB-3a12:2"), "VLVB.don+VLVB-3a12:2");
-}
-
-TEST(NettoyerCode, RetirerMotRtfOteUnChiffreALaFois) {
-    Texte c = "xkmkstartDDE_LINK12y";
-    EXPECT_EQ(RetirerMotRtf(c, "kmkstartDDE_LINK"), 1);
-    EXPECT_EQ(c, "xkmkstartDDE_LINK2y");
-    EXPECT_EQ(RetirerMotRtf(c, "kmkstartDDE_LINK"), 1);
-    EXPECT_EQ(RetirerMotRtf(c, "kmkstartDDE_LINK"), 1);
-    EXPECT_EQ(c, "xy");
-    EXPECT_EQ(RetirerMotRtf(c, "kmkstartDDE_LINK"), -1);
-    EXPECT_EQ(c, "xy");
 }
 
 TEST_F(Scanner, CodesImbriquesSansAnnotation) {
