@@ -1,39 +1,18 @@
+#include "support/DossierTemporaire.h"
 #include "utils/ClsIni.h"
-
 #include "utils/OutilsFichiers.h"
 
 #include <gtest/gtest.h>
-
-#include <atomic>
-#include <chrono>
-#include <filesystem>
-#include <fstream>
 
 namespace verdane {
 namespace {
 
 class ClsIniTest : public ::testing::Test {
 protected:
-    ClsIniTest() {
-        static std::atomic<int> n{0};
-        dossier_ = std::filesystem::temp_directory_path() /
-                   ("verdane-ini-" +
-                    std::to_string(std::chrono::steady_clock::now().time_since_epoch().count()) +
-                    "-" + std::to_string(++n));
-        std::filesystem::create_directories(dossier_);
-        fichier = CheminTexte(dossier_ / "Essai.ini");
-    }
-    ~ClsIniTest() override {
-        std::error_code ec;
-        std::filesystem::remove_all(dossier_, ec);
-    }
-    void Ecrire(const std::string& contenu) {
-        std::ofstream(dossier_ / "Essai.ini", std::ios::binary) << contenu;
-    }
+    void Ecrire(const std::string& contenu) { d.Ecrire("Essai.ini", contenu); }
     std::string Contenu() { return LireFichier(fichier).value_or("<absent>"); }
-
-    std::filesystem::path dossier_;
-    Texte fichier;
+    test::DossierTemporaire d;
+    Texte fichier = d / "Essai.ini";
 };
 
 const char* const kExemple = "; en-tête\r\n"
