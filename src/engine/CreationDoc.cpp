@@ -34,6 +34,7 @@ public:
         fichier_.Ecrire(kFinDeLigne);
     }
     bool Valider() { return fichier_.Valider(); }
+    Texte Fermer() { return fichier_.Fermer(); }
     bool NomPris() const { return fichier_.NomPris(); }
 
 private:
@@ -401,7 +402,10 @@ IssueCreation CreerDocument(Contexte& ctx, const Texte& modeleDemande, const Tex
         return IssueCreation::Abandonnee;
     }
 
-    if (!sortie.Valider()) {
+    // A result to convert keeps its RTF apart: the result's name only takes the converted one.
+    const bool aPart = ConversionAPart(ctx, resultat, miseAJour, sansOuverture);
+    const Texte rtf = aPart ? sortie.Fermer() : Texte();
+    if (aPart ? rtf.empty() : !sortie.Valider()) {
         if (e.NbCodes > 0) ctx.utilisateur.FermerJauge();
         ctx.utilisateur.Sablier(false);
         ctx.utilisateur.AfficherMessage(
@@ -412,7 +416,10 @@ IssueCreation CreerDocument(Contexte& ctx, const Texte& modeleDemande, const Tex
         return IssueCreation::ResultatImpossible;
     }
     FinirJauge(ctx, miseAJour);
-    TerminerDocument(ctx, modele, resultat, miseAJour, sansOuverture);
+    if (aPart)
+        TerminerConversion(ctx, rtf, resultat, remplacer);
+    else
+        TerminerDocument(ctx, modele, resultat, miseAJour, sansOuverture);
     ctx.utilisateur.Sablier(false);
     return IssueCreation::Faite;
 }

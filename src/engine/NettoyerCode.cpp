@@ -2,9 +2,11 @@
 
 #include "utils/Chaines.h"
 
+#include <algorithm>
 #include <array>
 #include <cctype>
 #include <cstdint>
+#include <span>
 
 namespace verdane {
 
@@ -84,33 +86,67 @@ constexpr std::string_view kRetraits[] = {"\\sect",
                                           "d\\s5\\lotusoutlinelevel0",
                                           "\\lotusoutlinelevel0"};
 
+// Bookmark words of Word: each goes with the digits behind it. A word before any word that
+// ends it ("bkmkend" before "kmkend").
 constexpr std::string_view kSignets[] = {"kmkstartDDE_LINK", "bkmkendDDE_LINK", "kmkendDDE_LINK"};
+constexpr std::string_view kLiensOle[] = {"endOLE_LINK"};
 
-bool SignetDans(std::string_view texte) {
-    for (auto mot : kSignets)
-        if (texte.find(mot) != std::string_view::npos) return true;
-    return false;
-}
+// Removing words until none is left, each time the first one with the digits behind it, and
+// then the first `repli` with `saut` bytes behind it, the words first again whenever one
+// appears: all of it in one pass. The text is copied byte by byte; the copy never holds a word,
+// so one can only appear at its end, where it is taken off at once, and the digits behind it
+// are not copied. A `repli` at the end of the copy is the first one of the text; it goes unless
+// a word straddles the end of the copy, which the repeated removals would take first.
+class Reduction {
+public:
+    Reduction(std::span<const std::string_view> mots, std::string_view repli, std::size_t saut)
+        : mots_(mots), repli_(repli), saut_(saut) {}
 
-// Bookmark words lose their digits one at a time, then themselves; a "kmk" left over goes
-// alone, the first one each time, and the words are looked for again.
-void RetirerSignets(Texte& code) {
-    while (true) {
-        bool retire = false;
-        for (auto mot : kSignets)
-            if (!retire && RetirerMotRtf(code, mot) == 1) retire = true;
-        if (retire) continue;
-        auto n = code.find("kmk");
-        if (n == Texte::npos) return;
-        // No word is left: removing a "kmk" can only make one across the join, so only the
-        // join is looked at until one appears.
-        while (n != Texte::npos) {
-            code.erase(n, 3);
-            const std::size_t debut = n >= 16 ? n - 16 : 0;
-            if (SignetDans(std::string_view(code).substr(debut, 32))) break;
-            n = code.find("kmk", n >= 2 ? n - 2 : 0);
+    Texte operator()(std::string_view entree) const {
+        Texte sortie;
+        sortie.reserve(entree.size());
+        std::size_t i = 0;
+        while (i < entree.size()) {
+            sortie += entree[i++];
+            if (const auto mot = MotEnFin(sortie); mot > 0) {
+                sortie.resize(sortie.size() - mot);
+                while (i < entree.size() && EstChiffre(entree[i])) ++i;
+            } else if (!repli_.empty() && FinitPar(sortie, repli_) &&
+                       !MotACheval(sortie, entree.substr(i))) {
+                sortie.resize(sortie.size() - repli_.size());
+                i += std::min(saut_, entree.size() - i);
+            }
         }
+        return sortie;
     }
+
+private:
+    static bool EstChiffre(char c) { return c >= '0' && c <= '9'; }
+
+    std::size_t MotEnFin(std::string_view texte) const {
+        for (auto mot : mots_)
+            if (texte.back() == mot.back() && FinitPar(texte, mot)) return mot.size();
+        return 0;
+    }
+
+    bool MotACheval(std::string_view avant, std::string_view apres) const {
+        for (auto mot : mots_)
+            for (std::size_t j = 1; j < mot.size(); ++j)
+                if (FinitPar(avant, mot.substr(0, j)) && CommencePar(apres, mot.substr(j)))
+                    return true;
+        return false;
+    }
+
+    std::span<const std::string_view> mots_;
+    std::string_view repli_;
+    std::size_t saut_;
+};
+
+// The words go first, all of them; then the fallbacks, with the words that their removals
+// bring together.
+void Reduire(Texte& code, std::span<const std::string_view> mots, std::string_view repli,
+             std::size_t saut) {
+    code = Reduction(mots, repli, saut)(Reduction(mots, {}, 0)(code));
 }
 
 // The bytes a code holds, found in one pass. Removals take bytes away and never bring any, so
@@ -153,13 +189,10 @@ void NettoyerCode(Texte& code) {
     if (presents.Tous("\\")) RetirerMotsDeMiseEnForme(code);
     for (auto mot : kRetraits) Retirer(code, presents, mot);
 
-    if (presents.Tous("kmk")) RetirerSignets(code);
-    while (presents.Tous("endOLE")) {
-        const auto n = code.find("endOLE");
-        if (n == Texte::npos) break;
-        if (RetirerMotRtf(code, "endOLE_LINK") == 1) continue;
-        code.erase(n, std::string_view("endOLE_LINK").size());
-    }
+    // Bookmarks, and a "kmk" left alone.
+    if (presents.Tous("kmk")) Reduire(code, kSignets, "kmk", 0);
+    // OLE links; an "endOLE" without its "_LINK" goes with the five bytes behind it.
+    if (presents.Tous("endOLE")) Reduire(code, kLiensOle, "endOLE", 5);
 
     if (!presents.Tous("\\")) return;
     code = RemplacerExact(code, "\\lquote", "'");

@@ -3,6 +3,7 @@
 #include "links/FormatFichier.h"
 #include "links/Liens.h"
 #include "utils/Chaines.h"
+#include "utils/EcritureSure.h"
 #include "utils/OutilsFichiers.h"
 
 #include <filesystem>
@@ -151,6 +152,44 @@ void TerminerDocument(Contexte& ctx, const Texte& modele, const Texte& resultat,
         }
     }
     SupprimerCopieRtf(resultat);
+}
+
+bool ConversionAPart(const Contexte& ctx, const Texte& resultat, bool miseAJour,
+                     bool sansOuverture) {
+    return !miseAJour && sansOuverture && ctx.etat.options.ConvertirViaOO == 0 &&
+           FormatDuChemin(resultat) != FormatDocument::Rtf && DoitResauver(false, resultat);
+}
+
+void TerminerConversion(Contexte& ctx, const Texte& rtf, const Texte& resultatDonne,
+                        bool remplacer) {
+    ctx.etat.conversionManquee = {};
+    const Texte resultat = CheminComplet(resultatDonne);
+    const FormatDocument format = FormatDuChemin(resultat);
+    // The converted file keeps the result's extension: it tells the format to write.
+    const Texte converti =
+        CheminTemporaire(resultat, resultat.substr(SansExtension(resultat).size()));
+    Texte raison;
+    bool fait = ResauverResultat(ctx, rtf, converti, false, &raison);
+    if (fait && !FichierAuFormat(converti, format)) {
+        fait = false;
+        raison = "Le fichier écrit n'est pas au format " + NomFormat(format) + ".";
+    }
+    bool nomPris = false;
+    if (fait && PlacerFichier(converti, resultat, remplacer, nomPris)) {
+        SupprimerFichier(rtf);
+        SupprimerCopieRtf(resultat);
+        return;
+    }
+    SupprimerFichier(converti);
+    ConversionManquee& manquee = ctx.etat.conversionManquee;
+    manquee.raison = nomPris ? Texte("Un autre document a pris ce nom pendant la création.")
+                     : !raison.empty() ? raison
+                     : fait            ? Texte("Le document converti n'a pas pu prendre son nom.")
+                                       : Texte("La conversion n'a pas été faite.");
+    const Texte copie = SansExtension(resultat) + ".rtf";
+    bool copiePrise = false;
+    if (PlacerFichier(rtf, copie, true, copiePrise)) manquee.copieRtf = copie;
+    SignalerConversionManquee(ctx, resultat, manquee);
 }
 
 std::optional<Texte> PreparerMiseAJour(Contexte& ctx, const Texte& document) {

@@ -40,6 +40,19 @@ void SupprimerCopieRtf(const Texte& resultat);
 void TerminerDocument(Contexte& ctx, const Texte& modele, const Texte& resultat, bool miseAJour,
                       bool sansOuverture);
 
+// True when the end steps will convert the result without showing it (a creation, not shown,
+// whose name asks another format than RTF, without "ConvertirViaOO"): the creation then keeps
+// its RTF apart (`FichierSur::Fermer`) and calls `TerminerConversion`.
+bool ConversionAPart(const Contexte& ctx, const Texte& resultat, bool miseAJour,
+                     bool sansOuverture);
+
+// The end steps of such a creation. `rtf`, the complete RTF under a temporary name beside the
+// result, is converted to another temporary file, which is checked and only then takes the
+// result's name (replacing it, or without `remplacer` only if the name is free): a kill at any
+// moment leaves the old result or the new one, whole, never the RTF under the result's name.
+// A failure is told and kept as by `TerminerDocument`, the RTF then taking the name "x.rtf".
+void TerminerConversion(Contexte& ctx, const Texte& rtf, const Texte& resultat, bool remplacer);
+
 // Before the update of a document: a ".doc" is first converted to an RTF copy beside it,
 // after the user agrees. Gives the path to read and write (the document itself when it isn't a
 // ".doc", the copy otherwise), or nothing when the update is not to go on.

@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <random>
 #include <system_error>
+#include <utility>
 
 namespace fs = std::filesystem;
 
@@ -72,6 +73,21 @@ void NettoyerTemporairesAbandonnes(std::string_view chemin) {
     }
 }
 
+namespace {
+
+fs::path Temporaire(const fs::path& cible) {
+    return cible.parent_path() /
+           (PrefixeTemporaire(cible) + NumeroProcessus() + "-" + SuffixeAleatoire());
+}
+
+} // namespace
+
+Texte CheminTemporaire(std::string_view chemin, std::string_view suffixe) {
+    const fs::path cible = CheminSysteme(chemin);
+    if (cible.filename().empty()) return {};
+    return CheminTexte(Temporaire(cible)) + Texte(suffixe);
+}
+
 FichierSur::FichierSur(std::string_view chemin, bool remplacer) : remplacer_(remplacer) {
     const fs::path cible = CheminSysteme(chemin);
     if (cible.filename().empty()) return;
@@ -82,10 +98,8 @@ FichierSur::FichierSur(std::string_view chemin, bool remplacer) : remplacer_(rem
     if (fs::exists(statut) && !fs::is_regular_file(statut)) return;
     NettoyerTemporairesAbandonnes(chemin);
     final_ = cible.string();
-    const fs::path dossier = cible.parent_path();
-    const std::string prefixe = PrefixeTemporaire(cible) + NumeroProcessus() + "-";
     for (int essai = 0; essai < 5 && !ouvert_; ++essai) {
-        const fs::path temp = dossier / (prefixe + SuffixeAleatoire());
+        const fs::path temp = Temporaire(cible);
         if (fs::exists(temp, ec)) continue;
         flux_.open(temp, std::ios::binary | std::ios::trunc);
         if (flux_) {
@@ -107,42 +121,65 @@ void FichierSur::Ecrire(std::string_view octets) {
     if (ouvert_) flux_.write(octets.data(), static_cast<std::streamsize>(octets.size()));
 }
 
-bool FichierSur::Valider() {
-    if (!ouvert_ || valide_) return valide_;
+namespace {
+
+bool Placer(const fs::path& temporaire, const fs::path& final, bool remplacer, bool& nomPris) {
+    std::error_code ec;
+    nomPris = false;
+    if (remplacer) {
+        // Keep the permissions of the file replaced, if any.
+        const auto ancien = fs::status(final, ec);
+        if (!ec && fs::exists(ancien))
+            fs::permissions(temporaire, ancien.permissions(), fs::perm_options::replace, ec);
+        ec.clear();
+        fs::rename(temporaire, final, ec);
+    } else {
+        // A second name given to the complete file fails if the name is taken: the check and
+        // the placing are one step.
+        fs::create_hard_link(temporaire, final, ec);
+        if (ec && ec != std::errc::file_exists) {
+            // A file system without links: the next best, a check then a rename.
+            std::error_code e2;
+            if (!fs::exists(fs::symlink_status(final, e2)))
+                fs::rename(temporaire, final, ec);
+            else
+                ec = std::make_error_code(std::errc::file_exists);
+        }
+        nomPris = ec == std::errc::file_exists;
+    }
+    std::error_code e2;
+    fs::remove(temporaire, e2); // the link's first name; nothing once renamed
+    return !ec;
+}
+
+} // namespace
+
+bool PlacerFichier(std::string_view temporaire, std::string_view chemin, bool remplacer,
+                   bool& nomPris) {
+    return Placer(CheminSysteme(temporaire), CheminSysteme(chemin), remplacer, nomPris);
+}
+
+Texte FichierSur::Fermer() {
+    if (!ouvert_ || valide_) return {};
     flux_.flush();
     const bool bon = static_cast<bool>(flux_);
     flux_.close();
     std::error_code ec;
     if (bon && !flux_.fail()) {
-        if (remplacer_) {
-            // Keep the permissions of the file replaced, if any.
-            const auto ancien = fs::status(final_, ec);
-            if (!ec && fs::exists(ancien))
-                fs::permissions(temporaire_, ancien.permissions(), fs::perm_options::replace, ec);
-            ec.clear();
-            fs::rename(temporaire_, final_, ec);
-        } else {
-            // A second name given to the complete file fails if the name is taken: the check
-            // and the placing are one step.
-            fs::create_hard_link(temporaire_, final_, ec);
-            if (ec && ec != std::errc::file_exists) {
-                // A file system without links: the next best, a check then a rename.
-                std::error_code e2;
-                if (!fs::exists(fs::symlink_status(final_, e2)))
-                    fs::rename(temporaire_, final_, ec);
-                else
-                    ec = std::make_error_code(std::errc::file_exists);
-            }
-            nomPris_ = ec == std::errc::file_exists;
-        }
-        if (!ec) {
-            valide_ = true;
-            std::error_code e2;
-            fs::remove(temporaire_, e2); // the link's first name; nothing once renamed
-            return true;
-        }
+        valide_ = true; // no longer this object's to remove
+        return CheminTexte(temporaire_);
     }
     fs::remove(temporaire_, ec);
+    ouvert_ = false;
+    return {};
+}
+
+bool FichierSur::Valider() {
+    if (!ouvert_ || valide_) return valide_ && temporaire_.empty();
+    if (Fermer().empty()) return false;
+    const fs::path complet = std::exchange(temporaire_, {});
+    if (Placer(complet, final_, remplacer_, nomPris_)) return true;
+    valide_ = false;
     ouvert_ = false;
     return false;
 }

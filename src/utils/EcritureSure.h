@@ -31,6 +31,10 @@ public:
     bool Valider();
     // After a failed Valider without replacing: another file had taken the name meanwhile.
     bool NomPris() const { return nomPris_; }
+    // Flushes and closes without putting in place: the complete temporary file is the
+    // caller's from then on (to be converted, then put in place by `PlacerFichier`). Its path,
+    // or empty on any failure (nothing is then left).
+    Texte Fermer();
 
 private:
     std::string final_;
@@ -41,6 +45,16 @@ private:
     bool valide_ = false;
     bool nomPris_ = false;
 };
+
+// A new temporary name beside `chemin`, as above, followed by `suffixe`; empty when `chemin`
+// names no file.
+Texte CheminTemporaire(std::string_view chemin, std::string_view suffixe = {});
+
+// Puts the complete file `temporaire` at `chemin`, replacing it or, without `remplacer`, only
+// if the name is free (`nomPris` then tells that it wasn't). True when done; `temporaire` is
+// gone either way.
+bool PlacerFichier(std::string_view temporaire, std::string_view chemin, bool remplacer,
+                   bool& nomPris);
 
 // The whole of `contenu` written to `chemin` as above.
 bool EcrireFichierSur(std::string_view chemin, std::string_view contenu);

@@ -52,17 +52,6 @@ TEST_F(Explications, ListeSurPlusieursLignes) {
                   Texte(kExemple) + "( avec un saut de ligne après chaque nom ) : " + e.valeur);
 }
 
-TEST_F(Explications, PhrasesQuiSeSuffisent) {
-    ExpliquerCode(m.ctx, "saut2page");
-    EXPECT_EQ(Dernier().texte, "#mrl(saut2page)# est le code permettant un saut de page.");
-    ExpliquerCode(m.ctx, "INFO:a:10:b:c:d");
-    EXPECT_EQ(Dernier().texte.rfind("#mrl(INFO:code:taillecode:titre:infos:repere)# est le code "
-                                    "permettant l'affichage d'une info-bulle",
-                                    0),
-              0u);
-    EXPECT_EQ(Dernier().technique.rfind("Les infos-bulles au même titre", 0), 0u);
-}
-
 TEST_F(Explications, TableauxSansCalcul) {
     const Texte code = "tabd3;" + Texte(80, 'z');
     const Explication e = ExpliquerCode(m.ctx, code);
@@ -74,26 +63,12 @@ TEST_F(Explications, TableauxSansCalcul) {
     EXPECT_FALSE(e.valeurCalculee);
     EXPECT_EQ(e.valeur, "");
 
-    ExpliquerCode(m.ctx, "tabd1;x");
-    EXPECT_NE(Dernier().texte.find("affichant une seule colonne de valeurs sur 1 dossier."),
-              Texte::npos);
     ExpliquerCode(m.ctx, "cultper;x");
     EXPECT_NE(Dernier().texte.find(" est le code d'un tableau des cultures ( pérennes ou non )."),
               Texte::npos);
     EXPECT_FALSE(m.extensions.perenne);
     ExpliquerCode(m.ctx, "gph(Mon_graph;1)");
     EXPECT_NE(Dernier().texte.find("le graphique \"Mon graph\"."), Texte::npos);
-}
-
-TEST_F(Explications, DateEtDonnee) {
-    ExpliquerCode(m.ctx, "date(3)");
-    EXPECT_EQ(Dernier().texte, "#mrl(date(3))# est le code pour afficher une date fixe ou mise à "
-                               "jour au moment de la création du document résultat." +
-                                   Texte(kExemple) + ": 22/11/2026");
-    ExpliquerCode(m.ctx, "X.don+X-3a1");
-    EXPECT_NE(Dernier().texte.find("une donnée issue de Marlo ou un calcul de plusieurs données "
-                                   "de Marlo."),
-              Texte::npos);
 }
 
 } // namespace

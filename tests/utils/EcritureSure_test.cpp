@@ -1,5 +1,6 @@
 #include "support/DossierTemporaire.h"
 #include "utils/EcritureSure.h"
+#include "utils/OutilsFichiers.h"
 
 #include <gtest/gtest.h>
 
@@ -48,19 +49,35 @@ TEST(EcritureSure, SansRemplacerUnNomPrisEntreTempsNEstPasEcrase) {
     EXPECT_EQ(Noms(d), (std::set<std::string>{"r.rtf", "s.rtf"}));
 }
 
-TEST(EcritureSure, DeuxEcrituresDuMemeNomSansRemplacerUneSeuleGagne) {
+// A result to convert: its complete RTF waits under a part's name, the old result staying
+// whole, until the converted file takes the name.
+TEST(EcritureSure, UnFichierFermeAttendSaPlaceSousUnNomDePart) {
     test::DossierTemporaire d;
-    FichierSur a(d / "r.rtf", false), b(d / "r.rtf", false);
-    a.Ecrire("a");
-    b.Ecrire("b");
-    EXPECT_TRUE(a.Valider());
-    EXPECT_FALSE(b.Valider());
-    EXPECT_EQ(d.Lire("r.rtf"), "a");
-    EXPECT_EQ(Noms(d).size(), 1u);
+    d.Ecrire("r.pdf", "ancien");
+    FichierSur f(d / "r.pdf", false);
+    f.Ecrire("rtf");
+    const Texte rtf = f.Fermer();
+    EXPECT_FALSE(f.Valider()); // the caller's now
+    EXPECT_EQ(d.Lire("r.pdf"), "ancien");
+    EXPECT_EQ(NomFichier(rtf).rfind(".r.pdf.part-" + NumeroDeCeProcessus() + "-", 0), 0u);
+    const Texte converti = CheminTemporaire(d / "r.pdf", ".pdf");
+    d.Ecrire(NomFichier(converti), "converti");
+    bool pris = false;
+    EXPECT_FALSE(PlacerFichier(converti, d / "r.pdf", false, pris));
+    EXPECT_TRUE(pris);
+    EXPECT_TRUE(PlacerFichier(rtf, d / "r.pdf", true, pris));
+    EXPECT_EQ(d.Lire("r.pdf"), "rtf");
+    EXPECT_EQ(Noms(d), std::set<std::string>{"r.pdf"}); // no part left
 }
 
-TEST(EcritureSure, UnRepertoireNePeutPasDevenirUnDocument) {
+TEST(EcritureSure, UnFichierNonValideOuUnRepertoireNeRemplaceRien) {
     test::DossierTemporaire d;
+    d.Ecrire("doc.rtf", "ancien");
+    FichierSur(d / "doc.rtf").Ecrire("nouveau mais incomplet"); // dies without Valider
+    EXPECT_EQ(d.Lire("doc.rtf"), "ancien");
+    EXPECT_EQ(Noms(d), std::set<std::string>{"doc.rtf"});
+    EXPECT_FALSE(EcrireFichierSur(d / "absent/doc.rtf", "x"));
+    fs::remove(d.Systeme() / "doc.rtf");
     fs::create_directories(d.Systeme() / "r.rtf");
     EXPECT_FALSE(FichierSur(d / "r.rtf").Ouvert());
     EXPECT_FALSE(FichierSur(d.Chemin()).Ouvert());

@@ -1,5 +1,4 @@
 #include "support/DossierTemporaire.h"
-#include "utils/EcritureSure.h"
 #include "utils/OutilsFichiers.h"
 
 #include <gtest/gtest.h>
@@ -80,25 +79,6 @@ TEST(OutilsFichiers, UnRepertoireOuUnNomCoupeParUnNulNeSeLitPas) {
     EXPECT_FALSE(LireFichier(d / "D/" + Texte("\0VL.don", 7)).has_value());
     EXPECT_EQ(LireFichier(d / "D/VL.don" + Texte("\0\0\0", 3)).value_or("?"), "valeurs");
     EXPECT_EQ(LireOctets(d / "D/VL.don" + Texte("\0x", 2), 4, 90).value_or("?"), "urs");
-}
-
-TEST(EcritureSure, UnFichierNonValideNeRemplaceRien) {
-    test::DossierTemporaire d;
-    d.Ecrire("doc.rtf", "ancien");
-    {
-        FichierSur f(d / "doc.rtf");
-        ASSERT_TRUE(f.Ouvert());
-        f.Ecrire("nouveau mais incomplet");
-    } // destroyed without Valider: as if the program had died while writing
-    EXPECT_EQ(d.Lire("doc.rtf"), "ancien");
-    std::size_t fichiers = 0;
-    for ([[maybe_unused]] const auto& e : std::filesystem::directory_iterator(d.Systeme()))
-        ++fichiers;
-    EXPECT_EQ(fichiers, 1u); // no temporary left behind
-
-    EXPECT_TRUE(EcrireFichierSur(d / "doc.rtf", "nouveau"));
-    EXPECT_EQ(d.Lire("doc.rtf"), "nouveau");
-    EXPECT_FALSE(EcrireFichierSur(d / "absent/doc.rtf", "x"));
 }
 
 } // namespace verdane
