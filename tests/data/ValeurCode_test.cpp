@@ -173,13 +173,14 @@ TEST_F(ValeurCodeArobase, FichierDeLaCultureCourante) {
     EXPECT_EQ(Valeurs({"@12-3a", "@c12-10a", "@c12-i", "@12-u", "@12-max", "@12-mina", "@p1-2a",
                        "@a1-2a"}),
               (Textes{"13,0", "20,0", "marge", "€/ha", "15,0", "2004", "22", "502"}));
+    // The crop's or the module's own facts.
+    EXPECT_EQ(Valeurs({"@c-c", "@-n", "@-pc", "@-p", "@-ac", "@-a"}),
+              (Textes{"ha", "Blé tendre", "are", "Pommiers", "", "Brebis"}));
     ctx.etat.domaine.numModuleAnimal = 12;
     EXPECT_EQ(Valeur("@a1-2a"), "1 202");
     ctx.etat.domaine.numCulture = 4; // no such file
     EXPECT_EQ(Valeur("@12-3a"), "");
     EXPECT_TRUE(u.messages.empty());
-    EXPECT_EQ(Valeurs({"@c-c", "@-n", "@-pc", "@-p", "@-ac", "@-a"}),
-              (Textes{"ha", "Blé tendre", "are", "Pommiers", "", "Brebis"}));
 }
 
 TEST_F(ValeurCodeArobase, LeCodeEstRaccourci) {
