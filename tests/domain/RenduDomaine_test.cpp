@@ -4,7 +4,6 @@
 #include "domain/LignesDomaineMarlo.h"
 #include "domain/TabsActiLibres.h"
 #include "domain/TabsCultures.h"
-#include "tables/GenererTableau.h"
 
 namespace verdane::test {
 namespace {
