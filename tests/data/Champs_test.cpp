@@ -7,28 +7,17 @@
 namespace verdane {
 namespace {
 
-TEST(ChargerChamps, ListeDuMenu) {
-    const auto champs = ChargerChamps();
-    ASSERT_EQ(champs.size(), 59u);
-    EXPECT_EQ(champs.front().libelle, "Nom exploitant/société");
-    EXPECT_EQ(champs.front().code, "nomExplSoc");
-    EXPECT_EQ(champs.back().code, "OrgaLogo");
+// Each field of the menu is inserted by its code: no two share one, and the organisation's
+// fields, which take its suffix, are all of its kind.
+TEST(ChargerChamps, CodesUniques) {
     std::set<Texte> codes;
-    int annees = 0, organismes = 0;
-    for (const auto& c : champs) {
+    for (const auto& c : ChargerChamps()) {
         EXPECT_TRUE(codes.insert(c.code).second) << c.code;
-        annees += c.suffixe == SuffixeChamp::Annee;
-        organismes += c.suffixe == SuffixeChamp::Organisme;
         if (c.suffixe == SuffixeChamp::Organisme) {
             EXPECT_EQ(c.code.substr(0, 4), "Orga");
         }
     }
-    EXPECT_EQ(annees, 9);
-    EXPECT_EQ(organismes, 7);
-    EXPECT_EQ(champs[23].libelle, "Nom du 1er associé");
-    EXPECT_EQ(champs[24].libelle, "Nom du 2ème associé");
-    EXPECT_EQ(champs[32].code, "nomAss10");
-    EXPECT_EQ(champs[33].code, "dateDebut");
+    EXPECT_EQ(codes.size(), 59u);
 }
 
 } // namespace

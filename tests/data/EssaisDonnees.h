@@ -13,7 +13,6 @@
 
 namespace verdane::test_donnees {
 
-using FauxUtilisateurDonnees = test::FauxUtilisateur;
 using test::DossierTemporaire;
 
 // A series record with the values `v0 + k * pas` at index k.
@@ -42,7 +41,7 @@ protected:
         ctx.etat.marques = MarquesNombre{",", " "};
     }
     DossierTemporaire d;
-    FauxUtilisateurDonnees u;
+    test::FauxUtilisateur u;
     Contexte ctx;
 };
 

@@ -30,12 +30,12 @@ protected:
     }
 
     template <typename Enr, typename Ecrivain>
-    void EcrireListe(const std::string& nom, const std::vector<Enr>& liste, Ecrivain ecrire,
-                     const std::string& suite = "") {
+    void EcrireListe(const std::string& nom, const std::vector<Enr>& liste, Ecrivain ecrire) {
         std::string octets;
         for (const auto& e : liste) octets += ecrire(e);
-        d.Ecrire("Ferme/" + nom, octets + suite);
+        d.Ecrire("Ferme/" + nom, octets);
     }
+    // The dossier's lists, each in its file.
     void Immos(const std::vector<EnrImmo>& l) { EcrireListe("Immo.imm", l, EcrireEnrImmo); }
     void Subs(const std::vector<EnrImmo>& l) { EcrireListe("Sub.sub", l, EcrireEnrImmo); }
     void Emprunts(const std::vector<EnrEmprunt>& l) {

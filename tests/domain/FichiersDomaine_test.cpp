@@ -19,6 +19,11 @@ TEST_F(FichiersDomaineTest, FichiersAbsentsVidesOuTronques) {
     EXPECT_EQ(ctx.etat.domaine.immobilisations[1].montant, 2.0f);
     d.Ecrire("Ferme/Emprunt.emp", std::string(1095, '\xff'));
     EXPECT_EQ(LireFichierInvest(ctx, 'e'), 0);
+    // Plans count up to the last label; a file of a slot and a half, the rest empty slots.
+    Plans({Plan("Bâtiment"), Plan(""), Plan("  "), Plan("Matériel [MAT1]")});
+    EXPECT_EQ(LireFichierInvest(ctx, 'p'), 4);
+    d.Ecrire("Ferme/PlanF.fin", EcrireEnrPlan(Plan("x")) + std::string(60, 'z'));
+    EXPECT_EQ(LireFichierInvest(ctx, 'p'), 1);
     EXPECT_TRUE(LireCultures(ctx.etat).empty());
     EXPECT_TRUE(LireCulturesPerennes(ctx.etat).empty());
     EXPECT_TRUE(LireModulesAnimaux(ctx.etat).empty());
@@ -40,15 +45,6 @@ TEST_F(FichiersDomaineTest, PlanAbsentVingtPlansVidesSansRienEcrire) {
     EXPECT_EQ(FichierDossier(ctx.etat, "PlanF.fin"), "");
     EXPECT_EQ(LireFichierInvest(ctx, 'p'), 0);
     EXPECT_FALSE(std::filesystem::exists("PlanF.fin"));
-}
-
-TEST_F(FichiersDomaineTest, PlansCompteJusquAuDernierLibelle) {
-    Plans({Plan("Bâtiment"), Plan(""), Plan("  "), Plan("Matériel [MAT1]")});
-    EXPECT_EQ(LireFichierInvest(ctx, 'p'), 4);
-    EXPECT_EQ(ctx.etat.domaine.plans[0].libelle, "Bâtiment");
-    // A file of 3 slots and a half: the rest are empty slots.
-    d.Ecrire("Ferme/PlanF.fin", EcrireEnrPlan(Plan("x")) + std::string(60, 'z'));
-    EXPECT_EQ(LireFichierInvest(ctx, 'p'), 1);
 }
 
 TEST_F(FichiersDomaineTest, RattachementAuxPlans) {

@@ -19,15 +19,11 @@ protected:
     }
 };
 
-TEST(PagesPDE, ListeEtModeles) {
-    EXPECT_EQ(PagesPDE().size(), 16u);
-    EXPECT_STREQ(PagesPDE()[9], "9: Tableau des emprunts en cours et prévus - J.A.");
-    EXPECT_EQ(
-        (std::vector<Texte>{ModelePDE(0, false), ModelePDE(0, true), ModelePDE(15, false),
-                            ModelePDE(16, false)}),
-        (std::vector<Texte>{"PDE\\PDECerfa.vdm", "PDE\\PDECerfasoc.vdm", "PDE\\PDE15.vdm", ""}));
-    EXPECT_EQ(NomResultatPDE(0), "PDECerfa");
-    EXPECT_EQ(NomResultatPDE(8), "8: Plan de financement de l'exploitation");
+TEST(PagesPDE, ModelesEtBourrage) {
+    EXPECT_EQ((std::vector<Texte>{ModelePDE(0, false), ModelePDE(0, true), ModelePDE(15, false),
+                                  ModelePDE(16, false), NomResultatPDE(0)}),
+              (std::vector<Texte>{"PDE\\PDECerfa.vdm", "PDE\\PDECerfasoc.vdm", "PDE\\PDE15.vdm", "",
+                                  "PDECerfa"}));
     std::vector<int> groupes;
     for (int lignes : {10, 26, 27, 400, 0}) groupes.push_back(GroupesBourrage(lignes));
     EXPECT_EQ(groupes, (std::vector<int>{5, 0, 0, 0, 9}));
@@ -103,10 +99,10 @@ TEST_F(GestEPICerfaTest, Echeanciers) {
     EXPECT_TRUE(Contient(e2, {" Foncier}\\cell", " MTS bonifié}\\cell", " 2024  }\\cell",
                               " exercice 2024}\\cell", " TOTAL GENERAL}\\cell"}));
     EXPECT_TRUE(Exclut(e2, {"Prêt JA"}));
+    // The old loan's row: its capital at the start, annuity, interest and capital left.
     const auto foncier = e2.find(" Foncier}");
-    const auto fin = e2.find("\\row", foncier);
-    for (const char* v : {" 40 000}", " 5 000}", " 1 000}", " 36 000}"})
-        EXPECT_LT(e2.find(v, foncier), fin) << v;
+    EXPECT_TRUE(Contient(e2.substr(foncier, e2.find("\\row", foncier) - foncier),
+                         {" 40 000}", " 5 000}", " 1 000}", " 36 000}"}));
     EXPECT_EQ(Compter(e2, " TOTAL GENERAL}"), 13); // years 1 to 13
     const std::string e3 = Rendre("imemp:empr3:0");
     EXPECT_TRUE(Contient(e3, {"Prêt JA", "MTS bonifié"}));
@@ -129,7 +125,6 @@ TEST_F(GestEPICerfaTest, InvestissementsDeLaPage) {
     EXPECT_TRUE(Contient(rtf, {" Bien 5}\\cell", " Parts sociales emprunts}\\cell"}));
     EXPECT_TRUE(Exclut(rtf, {"Bien 6", "Ancien"}));
     const auto autres = rtf.find(" Autres immobilisations}");
-    EXPECT_LT(autres, rtf.find(" 13 000}\\cell", autres));
     EXPECT_LT(rtf.find(" 13 000}\\cell", autres), rtf.find("\\row", autres));
     EXPECT_EQ(Compter(rtf, "\\row"), 7);
     ctx.etat.tableaux.TableauxCourants.clear();

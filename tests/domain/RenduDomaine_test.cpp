@@ -1,11 +1,9 @@
-// The domain tables through the table walker: a document's table codes with crop, activity
-// and investment lines.
+// The domain tables through the table walker: a table repeated by crop, and by activity.
 
 #include "DossierDomaine.h"
 #include "domain/LignesDomaineMarlo.h"
 #include "domain/TabsActiLibres.h"
 #include "domain/TabsCultures.h"
-#include "tables/GenererTableau.h"
 
 namespace verdane::test {
 namespace {
@@ -37,13 +35,6 @@ protected:
     }
 };
 
-TEST_F(RenduDomaineTest, LignesParCultureDansUnTableau) {
-    const std::string rtf = GenererTableau(ctx, "tabp1;larg2000;larg4000(" +
-                                                    L("Surfaces", "cultu:assolement:0:0") + ")");
-    EXPECT_TRUE(Contient(rtf, {" Blé tendre}", " Prairie}", " Cultures de vente}", " 45}\\cell"}));
-    EXPECT_EQ(Compter(rtf, "\\row"), 5);
-}
-
 TEST_F(RenduDomaineTest, TableauRepeteParCultureAvecSesValeurs) {
     const std::string rtf = TableauCultures(ctx, "culture2tabp1;larg2000;larg4000(" +
                                                      L("Marge", "scult:@14:0:0") + ")");
@@ -59,18 +50,13 @@ TEST_F(RenduDomaineTest, TableauRepeteParCultureAvecSesValeurs) {
     EXPECT_EQ(CodeCoutNetOp("tab[[]#"), "tab[[]#");
 }
 
-TEST_F(RenduDomaineTest, ActivitesEtInvestissements) {
+TEST_F(RenduDomaineTest, ActivitesAvecLeursDecimales) {
     d.Ecrire("Ferme/ModAniLib.ini",
              "[GLOBAL]\r\nNumLastMod=1\r\n[MOD1]\r\nACTIF=1\r\nNom=Ovins\r\n");
     Don("AL01AL.don", {{159, {0, 35.5f, 36}}});
     const std::string rtf = TableauActivites(ctx, "actlibr0tabp1;larg2000;larg4000(" +
                                                       L("UGB", "ALani:@159:1:0") + ")");
     EXPECT_TRUE(Contient(rtf, {" 35,5}\\cell", " 36,0}\\cell"}));
-
-    Immos({Immo("Tracteur", 50000, 1)});
-    const std::string immo =
-        GenererTableau(ctx, "tabp1;larg2000;larg4000(" + L("", "imemp:immo0:0") + ")");
-    EXPECT_TRUE(Contient(immo, {" tracteur }\\cell", " 50 000}\\cell", "\\trgaph5"}));
 }
 
 } // namespace

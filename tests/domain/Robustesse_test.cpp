@@ -1,4 +1,5 @@
-// Damaged dossier files: every table still renders, whatever the bytes.
+// Dossier lists holding values out of every range (NaN, infinities, huge kinds, unclosed
+// codes): every table still renders.
 
 #include "DossierDomaine.h"
 #include "domain/CadreDomaine.h"
@@ -9,7 +10,6 @@
 
 #include <cmath>
 #include <limits>
-#include <random>
 
 namespace verdane::test {
 namespace {
@@ -44,42 +44,19 @@ protected:
     }
 };
 
-TEST_F(RobustesseTest, OctetsAuHasard) {
-    std::mt19937 alea(1234);
-    const char* const fichiers[] = {"Immo.imm", "Sub.sub",  "Emprunt.emp", "PlanF.fin",
-                                    "cult.clt", "CltP.cpD", "IMMORES.DON", "Cult0.don"};
-    for (int essai = 0; essai < 12; ++essai) {
-        for (const char* f : fichiers) {
-            std::string octets(std::uniform_int_distribution<int>(0, 9000)(alea), '\0');
-            for (auto& c : octets) c = static_cast<char>(alea());
-            d.Ecrire(std::string("Ferme/") + f, octets);
-        }
-        ctx.etat.nbAnEtude = static_cast<std::int16_t>(essai * 7 - 20); // negative and huge
-        ToutRendre();
-    }
-    SUCCEED();
-}
-
 TEST_F(RobustesseTest, ValeursExtremes) {
     const float nan = std::numeric_limits<float>::quiet_NaN();
     const float inf = std::numeric_limits<float>::infinity();
     EnrImmo i = Immo("Ééééééééééééééééééééééééééééééééééééééé", nan, 1, inf);
-    i.type = -5;
-    i.amortissement = 1 << 30;
-    i.duree = -inf;
-    i.plusValue1 = 1e300;
+    i.type = -5, i.amortissement = 1 << 30, i.duree = -inf, i.plusValue1 = 1e300;
     Immos({i, Immo("x", 3e38f, 0, 1)});
     EnrEmprunt e = Emprunt("Prêt [sans fin", inf, 2, 1);
-    e.periode = 0;
-    e.duree1 = nan;
-    e.type = -1;
-    e.taux1 = -inf;
+    e.periode = 0, e.duree1 = nan, e.type = -1, e.taux1 = -inf;
     Emprunts({e});
     Plans({Plan("Plan [AB", 100, nan), Plan("Plan ]", inf, 0)});
     ctx.etat.nbAnEtude = 40;
     ToutRendre();
-    // A loan period of 0 speaks in months.
-    EXPECT_EQ(TexteDuree(7, true, 0), "7 mois");
+    EXPECT_EQ(TexteDuree(7, true, 0), "7 mois") << "a loan period of 0 speaks in months";
 }
 
 } // namespace

@@ -48,26 +48,6 @@ TEST(CadreDomaine, DureesEtLibellesDeListe) {
     EXPECT_EQ(DateCourte(" **/**/**** "), "**/**/****");
 }
 
-TEST(CadreDomaine, CelluleEtRegleDeFin) {
-    Etat etat;
-    etat.decalageCouleurs = 2;
-    Texte def, corps;
-    CelluleFixe c;
-    c.haut = "1";
-    c.droite = "2";
-    c.gras = true;
-    c.souligne = true;
-    c.alignement = "r";
-    AjouterCelluleFixe(etat, def, corps, c, 1500);
-    EXPECT_EQ(def, " \\clbrdrt\\brdrs \\clbrdrr\\brdrdb\\clvertalc\\clcbpat10\\cellx1500");
-    EXPECT_EQ(corps, "\\qr\\intbl\\clvertalb{\\fs16\\f5006\\cf3\\b\\ul");
-    EXPECT_EQ(c.police, "5006"); // written back
-    const Texte fin = FinDeTableau(etat, 6800);
-    EXPECT_EQ(fin.rfind("\\trowd\\trgaph5\\trrh50\\trqc", 0), 0u);
-    EXPECT_TRUE(Contient(fin, {"\\cellx6800", "\\cellx9500"}));
-    EXPECT_TRUE(Exclut(FinDeTableau(etat, 9500), {"\\cellx6800"}));
-}
-
 TEST_F(TabsImmoEmprTest, ListeVideTitresEtRegle) {
     const std::string rtf = Rendre("imemp:immo2");
     EXPECT_TRUE(
@@ -103,13 +83,9 @@ TEST_F(TabsImmoEmprTest, ImmobilisationsParGroupe) {
                              " salle de traite 2x8 a.}\\cell", " 98 765}\\cell", " D}\\cell",
                              " 15}\\cell", " 150}\\cell", " 15/03/25}\\cell"}));
     EXPECT_TRUE(Exclut(nouvelles, {"hangar", "bizarre"}));
-
     // LSM negative, red with the table's flag: colour 6 + 3.
-    const std::string anciennes = Rendre("imemp:immo1:0");
-    EXPECT_TRUE(
-        Contient(anciennes, {" hangar }\\cell", " F}\\cell", " Dég.}\\cell", "\\cf9 -250}\\cell"}));
-    // The title's paragraphs before the header, then one paragraph opening the group.
-    EXPECT_EQ(Compter(anciennes, "\\par \\plain \\plain \\trowd"), 2);
+    EXPECT_TRUE(Contient(Rendre("imemp:immo1:0"),
+                         {" hangar }\\cell", " F}\\cell", " Dég.}\\cell", "\\cf9 -250}\\cell"}));
     EXPECT_TRUE(DansLOrdre(Rendre("imemp:immos"), {"hangar", "salle"}));
 }
 
@@ -118,26 +94,17 @@ TEST_F(TabsImmoEmprTest, SubventionsEtEmprunts) {
     s.type = 1;
     s.dateRevente = "01/01/2030";
     Subs({s});
-    const std::string sub = Rendre("imemp:subv0:0");
-    EXPECT_EQ(Bords(sub, sub.find("\\trowd")),
-              (std::vector<int>{2200, 3100, 4200, 5100, 5800, 6800, 9500}));
-    EXPECT_TRUE(
-        Contient(sub, {" dja }\\cell", " Lin.}\\cell", " 01/01/2030}\\cell", " }\\cell\\row"}));
+    EXPECT_TRUE(Contient(Rendre("imemp:subv0:0"),
+                         {" dja }\\cell", " Lin.}\\cell", " 01/01/2030}\\cell", " }\\cell\\row"}));
 
     EnrEmprunt e = Emprunt("Prêt bâtiment JA bonifié longue durée", 150000, 0);
     e.type = 1;
     e.echeance1 = 2500;
     e.dateFin = "01/10/2039";
     Emprunts({e});
-    const std::string empr = Rendre("imemp:empt1:0");
-    const auto premiere = empr.find("\\trowd");
-    EXPECT_EQ(Bords(empr, premiere),
-              (std::vector<int>{1600, 2400, 3300, 3700, 4200, 4700, 7600, 9650, 10400}));
-    const auto seconde = empr.find("\\trowd", empr.find("\\row", premiere));
-    EXPECT_EQ(Bords(empr, seconde).size(), 14u);
-    EXPECT_TRUE(
-        Contient(empr, {" prêt bâtiment ja bonif.}\\cell", " 150 000  }\\cell", " 2,5 %}\\cell",
-                        " 2 500    }\\cell", " 01/10/39}\\cell", " M}\\cell"}));
+    EXPECT_TRUE(Contient(Rendre("imemp:empt1:0"),
+                         {" prêt bâtiment ja bonif.}\\cell", " 150 000  }\\cell", " 2,5 %}\\cell",
+                          " 2 500    }\\cell", " 01/10/39}\\cell", " M}\\cell"}));
 }
 
 TEST_F(TabsImmoEmprTest, InvestissementsSansSubventionNiDiffere) {

@@ -103,23 +103,16 @@ TEST_F(PiloteOpenOfficeTest, InsertionEtSelection) {
     EXPECT_EQ(pilote.LireSelection(), "#mrl(nomExplSoc)#");
 }
 
-TEST_F(PiloteOpenOfficeTest, FiltresDeLaTableDesSauvegardes) {
-    using enum FormatDocument;
-    using F = PiloteOpenOffice;
-    EXPECT_EQ((std::vector<Texte>{F::Filtre(Rtf, true), F::Filtre(Doc, true), F::Filtre(Doc, false),
-                                  F::Filtre(Autre, true), F::Filtre(Autre, false),
-                                  F::Filtre(Odt, false)}),
-              (std::vector<Texte>{"Rich Text Format", "MS Word 97", "MS WinWord 97/2000/XP",
-                                  "MS Word 97", "Rich Text Format", "writer8"}));
-
+TEST_F(PiloteOpenOfficeTest, SauvegardesSousAvecLeurFiltre) {
+    // A PDF is exported; a Word document saved with the closing kept last.
     bureau.cadres = 1;
-    pilote.EnregistrerSous("/tmp/a b.pdf", Pdf, false);
-    pilote.EnregistrerSous("/tmp/r.doc", Doc, true);
+    pilote.EnregistrerSous("/tmp/a b.pdf", FormatDocument::Pdf, false);
+    pilote.EnregistrerSous("/tmp/r.doc", FormatDocument::Doc, true);
     const std::vector<std::string> attendu = {
         "StockerSous file:///tmp/a%20b.pdf [writer_pdf_Export] export",
         "StockerSous file:///tmp/r.doc [MS Word 97]", "Fermer"};
     EXPECT_EQ(SansConnexions(), attendu);
-    EXPECT_THROW(pilote.EnregistrerSous("/tmp/r.doc", Doc, true), ErreurEditeur)
+    EXPECT_THROW(pilote.EnregistrerSous("/tmp/r.doc", FormatDocument::Doc, true), ErreurEditeur)
         << "no document left";
 }
 

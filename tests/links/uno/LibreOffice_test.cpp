@@ -125,7 +125,8 @@ protected:
     fs::path dossier;
 };
 
-TEST_F(LibreOfficeTest, EditionEtSauvegardes) {
+// One office for a whole run: editing and saves, the end steps of a batch, errors said clearly.
+TEST_F(LibreOfficeTest, EditionConversionsEtErreursDansUnOffice) {
     PiloteOpenOffice& office = liens->Office();
     ASSERT_TRUE(office.NouveauDocument()) << (u.messages.empty() ? "" : u.messages[0]);
     ASSERT_TRUE(office.InsererTexte("Exploitation Dupont, été 2026", "", 0));
@@ -149,14 +150,10 @@ TEST_F(LibreOfficeTest, EditionEtSauvegardes) {
     ASSERT_TRUE(office.SauverDocument(0, false));
     ASSERT_TRUE(office.FermerDocument(0)) << "saved: closed without a question";
     EXPECT_EQ(Relire(Chemin("lettre.rtf")), "#mrl(nomExplSoc)# Madame, Monsieur,");
-    EXPECT_TRUE(u.messages.empty()) << u.messages[0];
-    EXPECT_EQ(liens->Bureau().Demarrages(), 1);
-}
 
-// The end steps of a batch, in one office: conversions of results twice to the same names (an
-// annotation in each, as every model with a tooltip gives one), a Word document updated through
-// its RTF copy, the lock of an office that is gone.
-TEST_F(LibreOfficeTest, ConversionsDUnLotSansVerrouNiCopie) {
+    // The end steps of a batch: conversions of results twice to the same names (an annotation
+    // in each, as every model with a tooltip gives one), a Word document updated through its RTF
+    // copy, the lock of an office that is gone.
     const char* rtf =
         "{\\rtf1\\ansi Valeur : 12 345 \\'e9t\\'e9 {\\fs22 {\\*\\atrfstart 47317183}612 000}"
         "{\\cs15\\v\\fs20 {\\*\\atrfend 47317183}{\\*\\atnid MRL}{\\*\\atnauthor "
@@ -202,6 +199,34 @@ TEST_F(LibreOfficeTest, ConversionsDUnLotSansVerrouNiCopie) {
     EXPECT_EQ(Verrous(dossier), std::vector<std::string>{});
     EXPECT_TRUE(u.messages.empty()) << u.messages[0];
     EXPECT_EQ(liens->Bureau().Demarrages(), 1) << "one start for the whole run";
+
+    // A document that isn't there, a save where no file can be: each said once.
+    EXPECT_FALSE(liens->Office().OuvrirDocument(Chemin("absent.rtf")));
+    ASSERT_EQ(u.messages.size(), 1u);
+
+    ASSERT_TRUE(liens->Office().NouveauDocument());
+    EXPECT_FALSE(SauverSous(ctx, false, Editeur::OpenOffice, "/etc/hostname/r.rtf", false));
+    ASSERT_EQ(u.messages.size(), 2u);
+    EXPECT_TRUE(CommencePar(u.messages[1], "Erreur du traitement de texte lors de la sauvegarde"));
+    liens->Office().FermerDocument(7);
+
+    // The office's temporary files are in its private profile, which goes with it.
+    const std::string profil = liens->Bureau().ProfilOffice();
+    ASSERT_EQ(profil.rfind(PrefixeProfils() + std::to_string(::getpid()) + "-", 0), 0u) << profil;
+    std::ifstream environ("/proc/" + std::to_string(liens->Bureau().PidOffice()) + "/environ");
+    std::string variable;
+    bool vu = false;
+    while (std::getline(environ, variable, '\0'))
+        vu = vu || variable == "TMPDIR=" + (fs::path(profil) / "tmp").string();
+    EXPECT_TRUE(vu);
+    liens->Bureau().Terminer();
+    EXPECT_FALSE(fs::exists(profil));
+
+    // A program that isn't an office.
+    BureauLibreOffice faux(OptionsOffice{"/bin/false", "", true, kDemarrage});
+    Texte erreur;
+    EXPECT_FALSE(faux.Connecter(erreur));
+    EXPECT_NE(erreur.find("s'est arrêté au démarrage"), Texte::npos) << erreur;
 }
 
 // Codes composed by the insertion dialogs, in one office: a code and its tooltip put at the cursor,
@@ -273,7 +298,7 @@ TEST_F(LibreOfficeTest, OfficeTueAuMilieuDUnLot) {
     EXPECT_TRUE(GroupeTermine(office));
 }
 
-TEST_F(LibreOfficeTest, OfficeTueOuFigeRemplace) {
+TEST_F(LibreOfficeTest, OfficeTueFigeOuMortRemplaceEtDitCommeTel) {
     ASSERT_TRUE(liens->Office().NouveauDocument());
     const pid_t premier = liens->Bureau().PidOffice();
     ASSERT_GT(premier, 0);
@@ -297,9 +322,8 @@ TEST_F(LibreOfficeTest, OfficeTueOuFigeRemplace) {
     ASSERT_TRUE(liens->Office().NouveauDocument());
     EXPECT_EQ(liens->Bureau().Demarrages(), 3) << "the hung office replaced";
     EXPECT_TRUE(Attendre([&] { return GroupeTermine(fige); }));
-}
 
-TEST_F(LibreOfficeTest, OfficeMortSousUnAppelOuAvantLaSauvegardeDitCommeTel) {
+    // Dead under a call, or before the save: said as such.
     std::ofstream(dossier / "r.rtf") << "{\\rtf1\\ansi Texte\\par}";
     ASSERT_TRUE(liens->Office().OuvrirDocumentCache(Chemin("r.rtf")));
     ASSERT_TRUE(liens->Bureau().PrendreDocumentCourant());
@@ -332,7 +356,12 @@ TEST_F(LibreOfficeTest, OfficeMortSousUnAppelOuAvantLaSauvegardeDitCommeTel) {
         << liens->Office().DerniereErreur();
 }
 
-TEST_F(LibreOfficeTest, ProgrammeChoisiLuAuDemarrageDeLOffice) {
+TEST_F(LibreOfficeTest, ProgrammeChoisiEtOfficeCacheHorsDuBureau) {
+    // A batch run keeps its office out of sight even with a screen; the bar's is shown when
+    // there is a screen to show it on.
+    liens.reset();
+    liens = std::make_unique<LiensSysteme>(ctx, OptionsOffice{"", "", false, kDemarrage});
+    ctx.etat.editeurVisible = false;
     // The links are made before the options are read: the choice made since is the one used.
     const fs::path faux = dossier / "soffice";
     std::ofstream(faux) << "#!/bin/sh\nexit 3\n";
@@ -346,15 +375,6 @@ TEST_F(LibreOfficeTest, ProgrammeChoisiLuAuDemarrageDeLOffice) {
     // A choice that names another program: the office of the system.
     ctx.etat.options.CheminEditeur = "C:\\Programmes\\WINWORD.EXE";
     EXPECT_TRUE(liens->Office().NouveauDocument()) << u.messages.back();
-}
-
-TEST_F(LibreOfficeTest, OfficeCacheHorsDuBureau) {
-    // A batch run keeps its office out of sight even with a screen; the bar's is shown when
-    // there is a screen to show it on.
-    liens.reset();
-    liens = std::make_unique<LiensSysteme>(ctx, OptionsOffice{"", "", false, kDemarrage});
-    ctx.etat.editeurVisible = false;
-    ASSERT_TRUE(liens->Office().NouveauDocument());
     EXPECT_TRUE(liens->Bureau().SansEcran());
     const char* ecran = std::getenv("DISPLAY");
     if (!ecran || !*ecran) {
@@ -363,35 +383,6 @@ TEST_F(LibreOfficeTest, OfficeCacheHorsDuBureau) {
         ASSERT_TRUE(liens->Office().NouveauDocument());
         EXPECT_TRUE(liens->Bureau().SansEcran()) << "no screen: headless all the same";
     }
-}
-
-TEST_F(LibreOfficeTest, ErreursDitesClairement) {
-    EXPECT_FALSE(liens->Office().OuvrirDocument(Chemin("absent.rtf")));
-    ASSERT_EQ(u.messages.size(), 1u);
-
-    ASSERT_TRUE(liens->Office().NouveauDocument());
-    EXPECT_FALSE(SauverSous(ctx, false, Editeur::OpenOffice, "/etc/hostname/r.rtf", false));
-    ASSERT_EQ(u.messages.size(), 2u);
-    EXPECT_TRUE(CommencePar(u.messages[1], "Erreur du traitement de texte lors de la sauvegarde"));
-    liens->Office().FermerDocument(7);
-
-    // The office's temporary files are in its private profile, which goes with it.
-    const std::string profil = liens->Bureau().ProfilOffice();
-    ASSERT_EQ(profil.rfind(PrefixeProfils() + std::to_string(::getpid()) + "-", 0), 0u) << profil;
-    std::ifstream environ("/proc/" + std::to_string(liens->Bureau().PidOffice()) + "/environ");
-    std::string variable;
-    bool vu = false;
-    while (std::getline(environ, variable, '\0'))
-        vu = vu || variable == "TMPDIR=" + (fs::path(profil) / "tmp").string();
-    EXPECT_TRUE(vu);
-    liens->Bureau().Terminer();
-    EXPECT_FALSE(fs::exists(profil));
-
-    // A program that isn't an office.
-    BureauLibreOffice faux(OptionsOffice{"/bin/false", "", true, kDemarrage});
-    Texte erreur;
-    EXPECT_FALSE(faux.Connecter(erreur));
-    EXPECT_NE(erreur.find("s'est arrêté au démarrage"), Texte::npos) << erreur;
 }
 
 } // namespace
