@@ -171,7 +171,6 @@ TEST_F(Lot, DesRepertoiresALaPlaceDesFichiers) {
 }
 
 TEST_F(Lot, UnResultatImpossibleAEcrireDonne1) {
-    EXPECT_EQ(Executer(Options(d / "nulle/part/r.rtf")).statut, kSortieEchec);
     Repertoire("r.rtf");
     ctx.etat.NbCodes = 0;
     EXPECT_EQ(Executer(Options(d / "r.rtf")).statut, kSortieEchec);

@@ -15,6 +15,7 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QMovie>
@@ -126,9 +127,10 @@ TEST(UtilisateurQt, QuestionsEnFrancaisAvecLeurBoutonParDefaut) {
         auto* boite = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
         if (!boite) return;
         titre = boite->windowTitle();
-        parDefaut = boite->defaultButton()->text();
+        if (boite->defaultButton()) parDefaut = boite->defaultButton()->text();
         for (QAbstractButton* b : boite->buttons()) libelles << b->text();
-        boite->button(QMessageBox::Yes)->click();
+        for (QAbstractButton* b : boite->buttons())
+            if (b->text() == QStringLiteral("Oui")) b->click();
     });
     EXPECT_EQ(port.Question("Retirer la barre d'outils Verdane ?", "Fermeture Verdane",
                             Boutons::OuiNon, Reponse::Non, Icone::Question),
