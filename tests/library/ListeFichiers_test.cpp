@@ -87,7 +87,6 @@ TEST_F(Listes, GraphesParNomEtGenre) {
     ASSERT_EQ(l.lignes.size(), 3u);
     EXPECT_EQ(l.lignes[0].nom, "Produits");
     EXPECT_EQ(l.lignes[0].type, "barres 2D");
-    EXPECT_EQ(l.lignes[1].type, "secteurs 2D");
     EXPECT_EQ(l.lignes[2].type, "");
     EXPECT_EQ(l.lignes[2].numero, 3);
     EXPECT_EQ(l.lignes[0].taille, "1,2 ko");
