@@ -32,18 +32,12 @@ TEST(ComposeurCode, CodesDesSeriesEtDesArticles) {
         {Choix(kClassic, vl, kValeur, 4 + 10, 1), "VLVB.DON+VLVB-10a12:1"},
         {Choix(kClassic, vl, kValeur, 4, 0), "VLVB.DON+VLVB-0a12:0"},
         {Choix(kClassic, vl, kValeur, 0, 7), "VLVB.DON+VLVB-som12:7"},
-        {Choix(kClassic, vl, kValeur, 1, 7), "VLVB.DON+VLVB-moy12:7"},
-        {Choix(kClassic, vl, kValeur, 2, 7), "VLVB.DON+VLVB-min12:7"},
-        {Choix(kClassic, vl, kValeur, 3, 7), "VLVB.DON+VLVB-max12:7"},
-        {Choix(kClassic, vl, GenreValeur::AnneeVal, 0, 3), "VLVB.DON+VLVB-mina12:3"},
         {Choix(kClassic, vl, GenreValeur::AnneeVal, 1, 0), "VLVB.DON+VLVB-maxa12:0"},
         // Label and unit take no decimals.
         {Choix(kClassic, vl, GenreValeur::Intitule, 0, 3), "VLVB.DON+VLVB-i12"},
-        {Choix(kClassic, vl, GenreValeur::Unite, 0, 3), "VLVB.DON+VLVB-u12"},
         // With two "-" the word goes behind the second.
         {Choix(kClassic, "CH.DON+CH-A-5", kValeur, 0, 1), "CH.DON+CH-A-som5:1"},
         // No leaf chosen: no code.
-        {Choix(kClassic, "", kValeur), ""},
         {Choix(kClassic, ":2", kValeur), ""},
         // The family's letter and a "-" come in behind the "@"; the word behind that "-".
         {Choix(kCulture, "@14", kValeur, 4 + 3), "@-3a14:0"},
@@ -78,7 +72,6 @@ TEST(ComposeurCode, TexteEnClairEtChamps) {
         const char* texte;
     } cas[] = {{" Lait vendu ", Choix(kClassic, "k", kValeur, 4), "Lait vendu pour l'année début"},
                {"Lait", Choix(kClassic, "k", kValeur, 5), "Lait pour la 1ère année"},
-               {"Lait", Choix(kClassic, "k", kValeur, 4 + 7), "Lait pour la 7e année"},
                {"Lait", Choix(kClassic, "k", kValeur, 1), "Lait : moyenne de la série"},
                {"Lait", Choix(kClassic, "k", GenreValeur::AnneeVal, 1),
                 "Lait : année de la valeur maximale"}};
@@ -98,8 +91,6 @@ TEST(ComposeurCode, FormulesHorsTableau) {
     MoteurDeTest m;
     EXPECT_EQ(ComposeurCode::CodeFormule(m.ctx, 2, " LG(VLVB-3) * 2 ", 1),
               "formule:2a:LG(VLVB-3) * 2:1");
-    EXPECT_EQ(ComposeurCode::CodeFormule(m.ctx, 0, "(150 + COS(45)) * 10^4", 0),
-              "formule:0a:(150 + COS(45)) * 10^4:0");
     EXPECT_TRUE(m.utilisateur.messages.empty());
 
     EXPECT_FALSE(ComposeurCode::CodeFormule(m.ctx, 2, "  \t", 1));

@@ -76,22 +76,12 @@ TEST_F(Creation, LeDocumentDuDialogueEstCeluiDeVerdaneLot) {
     EXPECT_NE(d.Lire("lot.rtf").find("DUPONT"), std::string::npos);
 }
 
-TEST_F(Creation, LaPageDuPDERemplaceLeModeleChoisi) {
-    d.Ecrire("Marlo/Verdane/ModlDocs/PDE/PDE8.vdm", "{\\rtf1 page huit}");
+TEST_F(Creation, LePDEEntierSurUneExploitationIndividuelleDemandeLesPagesSociete) {
     d.Ecrire("Marlo/Verdane/ModlDocs/PDE/PDECerfa.vdm", "{\\rtf1 individuel}");
     d.Ecrire("Marlo/Verdane/ModlDocs/PDE/PDECerfasoc.vdm", "{\\rtf1 societe}");
     ChoisirDossier("DUPONT");
-    auto demande = Demande("p8");
-    demande.pagePDE = 8;
-    demande.anneesPDE = 0;
-    ASSERT_EQ(LancerCreation(ctx, demande, resultat), IssueCreation::Faite);
-    EXPECT_NE(d.Lire("a b/p8.rtf").find("page huit"), std::string::npos);
-    EXPECT_TRUE(u.questions.empty()); // the company pages are a question of the whole PDE
-    EXPECT_FALSE(ctx.etat.anneesPDE);
-
-    // The whole PDE on an individual farm: the answer chooses the model.
+    auto demande = Demande("tout");
     demande.pagePDE = 0;
-    demande.nomResultat = "tout";
     u.reponses = {Reponse::Non};
     ASSERT_EQ(LancerCreation(ctx, demande, resultat), IssueCreation::Faite);
     EXPECT_NE(u.questions.at(0).texte.find("afficher les tableaux vides des Fiches Société en "
@@ -128,11 +118,9 @@ TEST_F(Creation, MiseAJourDepuisLeDialogueDOuverture) {
                                           "nomDossier)#}}");
     const auto liste = ListerFichiers(ctx.etat, d / "Marlo/Dossiers", "DOS");
     ASSERT_EQ(liste.lignes.size(), 1u);
-    // Cancelling is asked in this mode only.
+    // Cancelling is asked in the update mode only.
     EXPECT_TRUE(ConfirmerAnnulation(ctx, ModeOuverture::Document));
-    u.reponses = {Reponse::Non};
-    EXPECT_FALSE(ConfirmerAnnulation(ctx, ModeOuverture::DossierMaj));
-    EXPECT_EQ(u.questions.back().texte, "Annuler la mise à jour du document RTF ?");
+    EXPECT_TRUE(u.questions.empty());
 
     EXPECT_FALSE(OuvrirElement(ctx, ModeOuverture::DossierMaj, liste, nullptr, doc));
     EXPECT_TRUE(u.ADit("Aucun dossier à choisir !"));

@@ -50,9 +50,7 @@ TEST(ArbreInsertion, FamillesDesCulturesEtDesActivites) {
     EXPECT_EQ(famille.texte, "Données Cultures pérennes");
     ASSERT_GE(famille.enfants.size(), 3u);
     EXPECT_EQ(famille.enfants[0].cle, kCleUniteFamille);
-    EXPECT_EQ(famille.enfants[2].image, "rep");
     EXPECT_EQ(famille.enfants[2].enfants[0].cle, "@5");
-    EXPECT_EQ(famille.enfants[2].enfants[0].image, "puce");
     EXPECT_EQ(
         ChargerArbreInsertion(etat, FamilleInsertion::Culture).racine.enfants[0].enfants[2].cle,
         "@1");

@@ -160,25 +160,18 @@ TEST_F(Bibliotheque, SuppressionsReecriventLaBibliothequeSansLesElements) {
     EXPECT_EQ(SupprimerElements(ctx, d / "src", "TAB", lignes), 0);
     EXPECT_EQ(d.Lire("src/tableaux.txt"), t1);
 
-    // All: the library files go.
+    // All: the library files go; all the documents, and not the models.
     u.reponses = {Reponse::Oui};
     EXPECT_TRUE(SupprimerTout(ctx, d / "src", "TAB"));
     EXPECT_EQ(u.questions.back().texte, "Voulez-vous supprimer tous les modèles ?");
     EXPECT_EQ(u.questions.back().titre, "Suppression totale");
     EXPECT_FALSE(fs::exists(d.Systeme() / "src/tableaux.txt"));
-
-    // Documents and models, files of their own.
     d.Ecrire("src/a.rtf", "a");
-    d.Ecrire("src/b.doc", "b");
     d.Ecrire("src/m.vdm", "m");
     u.reponses = {Reponse::Oui};
     EXPECT_TRUE(SupprimerTout(ctx, d / "src", "DOC"));
-    EXPECT_EQ(u.questions.back().texte, "Voulez-vous supprimer tous les documents texte ?");
     EXPECT_TRUE(Lignes("DOC").empty());
     EXPECT_EQ(Lignes("MDL").size(), 1u);
-    u.reponses = {Reponse::Oui};
-    EXPECT_EQ(SupprimerSelection(ctx, d / "src", "MDL", Lignes("MDL")), 1);
-    EXPECT_TRUE(u.ADit("Le modèle de document \"m.vdm\" a été supprimé."));
 }
 
 TEST_F(Bibliotheque, RenommerGardeLExtension) {
@@ -194,8 +187,7 @@ TEST_F(Bibliotheque, RenommerGardeLExtension) {
 }
 
 // Nothing is left behind when a library can't be written: no temporary, no half.
-TEST_F(Bibliotheque, UneEcritureImpossibleNeLaisseRienDeMoitieEcrit) {
-    // A folder stands in the library's place.
+TEST_F(Bibliotheque, UneBibliothequeQuiEstUnRepertoireLaisseToutEnPlace) {
     d.Ecrire("src/graph.txt", test::EnregistrementGraphe("G", 1));
     fs::create_directories(d.Systeme() / "dst/graph.txt/dedans");
     EXPECT_FALSE(CopierGraphe(ctx, d / "src", d / "dst", "G"));
@@ -209,16 +201,16 @@ TEST_F(Bibliotheque, DestinationProtegeeEnEcritureLaisseToutEnPlace) {
     const std::string g = test::EnregistrementGraphe("G", 1);
     d.Ecrire("src/graph.txt", g);
     d.Ecrire("src/m.vdm", "m");
-    d.Ecrire("dst/graph.txt", g);
-    fs::permissions(d.Systeme() / "dst", fs::perms::owner_read | fs::perms::owner_exec);
-    u.reponses = {Reponse::Oui};
-    EXPECT_FALSE(CopierGraphe(ctx, d / "src", d / "dst", "G"));
-    EXPECT_EQ(Transferer("MDL", Lignes("MDL")), 0);
-    fs::permissions(d.Systeme() / "dst", fs::perms::owner_all);
+    d.Ecrire("ro/graph.txt", g);
+    fs::permissions(d.Systeme() / "ro", fs::perms::owner_read | fs::perms::owner_exec);
+    u.reponses = {Reponse::Oui, Reponse::Oui}; // the same name, then the transfer
+    EXPECT_FALSE(CopierGraphe(ctx, d / "src", d / "ro", "G"));
+    EXPECT_EQ(TransfererSelection(ctx, d / "src", d / "ro", "MDL", Lignes("MDL")), 0);
+    fs::permissions(d.Systeme() / "ro", fs::perms::owner_all);
     EXPECT_TRUE(u.ADit("n'a pas pu être écrit"));
-    EXPECT_EQ(d.Lire("dst/graph.txt"), g);
-    EXPECT_EQ(std::distance(fs::directory_iterator(d.Systeme() / "dst"), fs::directory_iterator()),
-              2); // the guard and the library: no temporary left
+    EXPECT_EQ(d.Lire("ro/graph.txt"), g);
+    EXPECT_EQ(std::distance(fs::directory_iterator(d.Systeme() / "ro"), fs::directory_iterator()),
+              1); // no temporary left
 }
 
 } // namespace

@@ -47,12 +47,6 @@ TEST_F(Installation, LeTravailIniCreeLeResultat) {
               kSortieFaite);
     EXPECT_EQ(d.Lire("a b/r.rtf"), "ancien");
     ASSERT_EQ(u.questions.size(), 1u);
-    // A result whose format can't be made without a word processor: 1, and the RTF kept.
-    EXPECT_EQ(
-        Executer("INI \"" + d / "a b/m.vdm" + "\" \"" + d / "a b/r.odt" + "\" \"\" remplacer"),
-        kSortieEchec);
-    EXPECT_TRUE(d.Lire("a b/r.rtf").starts_with("{\\rtf1 Bonjour"));
-    EXPECT_FALSE(std::filesystem::exists(d.Systeme() / "a b/r.odt"));
 }
 
 TEST_F(Installation, LesOptionsAbsentesSontCreeesVidesPuisEcritesEnFinDeTravail) {

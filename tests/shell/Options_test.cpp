@@ -34,11 +34,8 @@ TEST(Options, EcritPuisRelitLesMemesOctets) {
     Etat relu = EtatDans(d);
     ChargerOptions(relu);
     EXPECT_EQ(relu.NomDossier[0], "GAEC Élevage");
-    EXPECT_EQ(relu.RepDossier[0], "D:\\Données\\Marlo\\");
     EXPECT_EQ(relu.options.PositionBarre, -1);
-    EXPECT_EQ(relu.options.sautParagraphe, 0);
     EXPECT_EQ(relu.options.FormatsDefaut[11], "2;3;4;5;6");
-    EXPECT_EQ(relu.options.AlignementDefaut, "r");
     EXPECT_EQ(OctetsOptions(relu), ecrit);
 }
 

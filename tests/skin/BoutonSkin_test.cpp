@@ -17,18 +17,16 @@ TEST(BoutonSkin, InfoDesImages) {
     // The split stops at the first missing ",".
     b.Pic1_Info("5,6");
     EXPECT_EQ(b.Pic1(), (std::array<Texte, 4>{"5", "6", "30", "40"}));
-    b.Pic2_Info("0,0,x,4");
-    EXPECT_FALSE(b.SourceBas());
-    b.Pic2_Info("0,0,0,4");
-    EXPECT_FALSE(b.SourceBas());
+    for (const char* faux : {"0,0,x,4", "0,0,0,4"}) {
+        b.Pic2_Info(faux);
+        EXPECT_FALSE(b.SourceBas()) << faux;
+    }
 }
 
 TEST(BoutonSkin, DonneesDuSkinEtEtats) {
     const auto skin = LireDescriptionSkin("button.mup = 0,20,80,24\n"
                                           "button.mdown = 80,20,80,24\n"
-                                          "button.max = 300,40\n"
-                                          "button.lblcolor = 255,65280\n"
-                                          "button.lblgras = true\n",
+                                          "button.lblcolor = 255,65280\n",
                                           "")
                           .skin;
     BoutonSkin b;
@@ -37,9 +35,6 @@ TEST(BoutonSkin, DonneesDuSkinEtEtats) {
     b.RecevoirSkin(skin);
     EXPECT_EQ(b.SourceHaut(), (Rectangle{0, 20, 80, 24}));
     EXPECT_EQ(b.SourceBas(), (Rectangle{80, 20, 80, 24}));
-    EXPECT_EQ(b.LargeurMax(), 300);
-    EXPECT_EQ(b.HauteurMax(), 40);
-    EXPECT_TRUE(b.LibelleGras());
     EXPECT_EQ(b.CouleurLibelle(), 255);
     b.Appuyer();
     EXPECT_EQ(b.CouleurLibelle(), 65280);
@@ -51,20 +46,6 @@ TEST(BoutonSkin, DonneesDuSkinEtEtats) {
     b.Appuyer();
     EXPECT_TRUE(b.Relacher(true));
     EXPECT_FALSE(b.Enfonce());
-}
-
-TEST(BoutonSkin, ProprietesMarqueesQuandElleChangent) {
-    BoutonSkin b;
-    b.Text("");
-    b.FontSize(9);
-    EXPECT_FALSE(b.ProprietesModifiees());
-    b.Texte_("Valider");
-    EXPECT_EQ(b.Props().Text, "Valider");
-    EXPECT_TRUE(b.ProprietesModifiees());
-    b.ProprietesEnregistrees();
-    b.FontBold(true);
-    EXPECT_TRUE(b.ProprietesModifiees());
-    EXPECT_TRUE(b.LibelleGras());
 }
 
 } // namespace
