@@ -1,0 +1,19 @@
+#pragma once
+// How the programs keep the memory they free. A document's values come and go by the
+// thousand (table rows, cell texts): giving the top of the heap back to the system at each
+// large free, and taking it again at the next allocation, cost a fifth of a run. Freed memory
+// is kept for the next use up to 64 MiB; the peak is the same.
+
+#if defined(__GLIBC__)
+#include <malloc.h>
+#endif
+
+namespace verdane {
+
+inline void GarderMemoireLiberee() {
+#if defined(__GLIBC__)
+    mallopt(M_TRIM_THRESHOLD, 64 << 20);
+#endif
+}
+
+} // namespace verdane
