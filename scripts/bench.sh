@@ -4,7 +4,7 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 scripts/setup.sh
 scripts/build.sh build-bench -DCMAKE_BUILD_TYPE=Release -DVERDANE_BENCHMARKS=ON -DVERDANE_TESTS=OFF
-for b in build-bench/bench/bench_*; do
+for b in build-bench/bench/bench_* build-bench/bench/qt_*; do
     [ -x "$b" ] && "$b" "$@"
 done
 # End to end: a generated model of about 3 MB and 8 times that, against the floor.

@@ -7,7 +7,7 @@ set -euo pipefail
 # bar docks itself through libxcb, found by pkg-config; git is used by the test command.
 paquets=(cmake ninja-build g++ git libgtest-dev libgmock-dev libbenchmark-dev clang-format
          qt6-base-dev qt6-charts-dev libqt6opengl6-dev libgl-dev libxcb1-dev pkg-config
-         libpng-dev
+         zlib1g-dev
          fonts-dejavu-core)
 paquets+=("$@")
 manquants=()

@@ -2,6 +2,7 @@
 
 #include "engine/InterpreterCode.h"
 #include "engine/PrefixesCode.h"
+#include "graphs/ImagesAVenir.h"
 #include "utils/Chaines.h"
 
 #include <algorithm>
@@ -82,6 +83,8 @@ bool AnalyserCodes(Contexte& ctx, Texte& texte, bool expliquer, bool /*miseAJour
 }
 
 void AnalyserCodesImbriques(Contexte& ctx, Texte& texte) {
+    // A cell's text is reworked after its codes: a chart in it is finished in place.
+    const ImagesDifferees enPlace(ctx.etat.graphes, false);
     // The cell is built anew as it is read: each mark is interpreted on its own, its value
     // appended, and the search goes on in the text read, which is never cut nor rebuilt.
     const std::string_view lu = texte;

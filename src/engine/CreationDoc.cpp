@@ -2,9 +2,11 @@
 
 #include "data/ChargerDossier.h"
 #include "engine/LectureModele.h"
+#include "graphs/ImagesAVenir.h"
 #include "links/FinDocument.h"
 #include "shell/etat/Annulation.h"
 #include "utils/Chaines.h"
+#include "utils/EcritureOrdonnee.h"
 #include "utils/EcritureSure.h"
 #include "utils/GestFontTable.h"
 #include "utils/LectureEntiere.h"
@@ -23,22 +25,39 @@ constexpr std::string_view kFinDeLigne = "\r\n";
 constexpr std::string_view kDebutValeur = "{\\v #debdata#}";
 constexpr std::string_view kFinValeur = "{\\v #findata=#mrl(";
 
-// The output of a run: written beside the result and put in place once complete.
+// The output of a run: written beside the result and put in place once complete. The pictures
+// of charts finished on the second thread take their places in it in order.
 class Sortie {
 public:
-    Sortie(std::string_view chemin, bool remplacer) : fichier_(chemin, remplacer) {}
+    Sortie(std::string_view chemin, bool remplacer)
+        : fichier_(chemin, remplacer), ordre_([this](std::string_view t) { fichier_.Ecrire(t); }) {}
     bool Ouverte() const { return fichier_.Ouvert(); }
-    void Ecrire(std::string_view t) { fichier_.Ecrire(t); }
+    void Ecrire(std::string_view t) { ordre_.Ecrire(t); }
     void EcrireLigne(std::string_view t) {
-        fichier_.Ecrire(t);
-        fichier_.Ecrire(kFinDeLigne);
+        ordre_.Ecrire(t);
+        ordre_.Ecrire(kFinDeLigne);
     }
-    bool Valider() { return fichier_.Valider(); }
-    Texte Fermer() { return fichier_.Fermer(); }
+    // The value of a mark, with the pictures still to come in its place.
+    void EcrireValeur(EtatGraphes& g, std::string_view valeur) {
+        if (g.aVenir && !g.aVenir->Vide())
+            g.aVenir->Ecrire(valeur, ordre_);
+        else
+            ordre_.Ecrire(valeur);
+        ordre_.Ecrire(kFinDeLigne);
+    }
+    bool Valider() {
+        ordre_.Terminer();
+        return fichier_.Valider();
+    }
+    Texte Fermer() {
+        ordre_.Terminer();
+        return fichier_.Fermer();
+    }
     bool NomPris() const { return fichier_.NomPris(); }
 
 private:
     FichierSur fichier_;
+    EcritureOrdonnee ordre_;
 };
 
 void AvancerJauge(Contexte& ctx) {
@@ -234,9 +253,12 @@ bool Creer(Contexte& ctx, const ModeleEnMorceaux& lu, Sortie& sortie) {
             const auto fin = p.find(")#", n);
             if (fin != Texte::npos) {
                 Texte code(p.substr(n, fin + 2 - n));
-                e.SuiteVisible = ctx.analyseur->Analyser(ctx, code, false, false);
+                {
+                    const ImagesDifferees differees(e.graphes, true);
+                    e.SuiteVisible = ctx.analyseur->Analyser(ctx, code, false, false);
+                }
                 AvancerJauge(ctx);
-                sortie.EcrireLigne(code);
+                sortie.EcrireValeur(e.graphes, code);
                 m.o = fin + 2;
                 if (m.o >= p.size()) break;
                 continue;
@@ -394,6 +416,7 @@ IssueCreation CreerDocument(Contexte& ctx, const Texte& modeleDemande, const Tex
     if (e.NbCodes > 0) ctx.utilisateur.OuvrirJauge(miseAJour ? NomJauge(NomFichier(resultat)) : "");
 
     const bool complet = miseAJour ? MettreAJour(ctx, lu, sortie) : Creer(ctx, lu, sortie);
+    if (e.graphes.aVenir) e.graphes.aVenir->Oublier();
     if (!complet) {
         // Stopped by the user: the output is dropped unwritten, the document stays as it was.
         if (e.NbCodes > 0) ctx.utilisateur.FermerJauge();

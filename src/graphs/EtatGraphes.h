@@ -13,6 +13,7 @@ namespace verdane {
 
 class SurfaceGraphique;
 class FabriqueSurface;
+class ImagesAVenir;
 
 inline constexpr int kMaxGraphes = 50;
 
@@ -38,6 +39,14 @@ struct EtatGraphes {
     std::shared_ptr<SurfaceGraphique> insertionCreee;
     // The missing chart is told once a run.
     bool absenceSurfaceSignalee = false;
+
+    // Pictures of charts of the document being made that a second thread finishes (made at
+    // the first one). Only while `differerImages`: the creation driver sets it around each
+    // mark of the model, and a table cell's codes clear it, their text being reworked.
+    std::shared_ptr<ImagesAVenir> aVenir;
+    bool differerImages = false;
+    // False: every picture is finished in place, on the one thread; the document is the same.
+    bool imagesEnParallele = true;
 
     // True when the program runs one job of its command line: the editor's preview then draws
     // the values of the dossier, and not sample values. Set at start-up.

@@ -5,6 +5,7 @@
 #include "graphs/CodeGraph.h"
 #include "graphs/DessinGraphique.h"
 #include "graphs/FabriqueSurface.h"
+#include "graphs/ImagesAVenir.h"
 #include "utils/Chaines.h"
 #include "utils/EcritureSure.h"
 #include "utils/ImageRtf.h"
@@ -27,6 +28,13 @@ Texte CodePropre(const Texte& code) {
 
 void Signaler(Contexte& ctx, const Texte& texte, const Texte& technique) {
     ctx.utilisateur.AfficherMessage({texte, technique, kTitreGraphique, ""});
+}
+
+void SignalerSansImage(Contexte& ctx) {
+    Signaler(ctx,
+             "Le graphique \"" + Rogner(ctx.etat.graphes.graphes[1].titre) +
+                 "\" n'a pas pu être dessiné.",
+             "Le moteur de graphiques n'a pas rendu d'image.");
 }
 
 } // namespace
@@ -52,17 +60,27 @@ SurfaceGraphique* SurfaceInsertion(Contexte& ctx) {
     return eg.graphInsertion;
 }
 
-std::string DessinerImageGraph(Contexte& ctx, const Texte& code) {
+namespace {
+
+// The chart of `code` drawn, with what is left to make its PNG bytes; null when nothing was
+// drawn (told to the user).
+std::function<std::string()> Dessiner(Contexte& ctx, const Texte& code) {
     if (SurfaceInsertion(ctx) == nullptr) return {};
     LireCodeGraph(ctx, 1, CodePropre(code));
     std::int16_t index = 1;
     DessinerGraphique(ctx, index, true);
-    std::string png = ctx.etat.graphes.graphInsertion->CopierImage();
-    if (png.empty())
-        Signaler(ctx,
-                 "Le graphique \"" + Rogner(ctx.etat.graphes.graphes[1].titre) +
-                     "\" n'a pas pu être dessiné.",
-                 "Le moteur de graphiques n'a pas rendu d'image.");
+    auto png = ctx.etat.graphes.graphInsertion->CopierImagePlusTard();
+    if (!png) SignalerSansImage(ctx);
+    return png;
+}
+
+} // namespace
+
+std::string DessinerImageGraph(Contexte& ctx, const Texte& code) {
+    const auto dessin = Dessiner(ctx, code);
+    if (!dessin) return {};
+    std::string png = dessin();
+    if (png.empty()) SignalerSansImage(ctx);
     return png;
 }
 
@@ -85,12 +103,23 @@ Texte ConstruireImageGraph(Contexte& ctx, const Texte& code) {
 }
 
 Texte ImageGraphRtf(Contexte& ctx, const Texte& interieur) {
-    const std::string png = DessinerImageGraph(ctx, interieur);
-    if (png.empty()) return {};
+    auto dessin = Dessiner(ctx, interieur);
+    if (!dessin) return {};
     // The work file is a by-product: the picture goes into the document even when it can't be
-    // written.
-    EcrireImageGraph(ctx, png);
-    return ImageVersRtf(png, kLargeurImageGraphTwips);
+    // written. Its folder is made here; the file itself is written with the picture, which
+    // touches nothing of the run.
+    Texte chemin = CheminImageGraph(ctx.etat);
+    if (!chemin.empty() && !DossierExiste(ctx.etat.chemins.RepModelGraph)) CreerChemin(chemin);
+    auto finir = [dessin = std::move(dessin), chemin = std::move(chemin)]() -> std::string {
+        const std::string png = dessin();
+        if (png.empty()) return "\\~";
+        if (!chemin.empty()) EcrireFichierSur(chemin, png);
+        return ImageVersRtf(png, kLargeurImageGraphTwips);
+    };
+    EtatGraphes& g = ctx.etat.graphes;
+    if (!g.differerImages || !g.imagesEnParallele) return finir();
+    if (!g.aVenir) g.aVenir = std::make_shared<ImagesAVenir>();
+    return g.aVenir->Confier(std::move(finir));
 }
 
 } // namespace verdane

@@ -19,6 +19,7 @@
 #include "graphs/ModeleGraph.h"
 #include "utils/Texte.h"
 
+#include <functional>
 #include <string>
 
 namespace verdane {
@@ -166,6 +167,13 @@ public:
     virtual void Redessiner() = 0;
     // EditCopy: the chart as drawn, as the bytes of a PNG picture; empty when none can be made.
     virtual std::string CopierImage() = 0;
+    // The same in two steps: the chart drawn now, and what is left to make its PNG bytes, a
+    // task that holds all it needs and may run on another thread. Null when nothing was drawn.
+    virtual std::function<std::string()> CopierImagePlusTard() {
+        std::string png = CopierImage();
+        if (png.empty()) return {};
+        return [png = std::move(png)] { return png; };
+    }
 };
 
 } // namespace verdane

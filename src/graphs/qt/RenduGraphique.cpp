@@ -669,7 +669,9 @@ QImage RendreGraphique(const ReglagesGraphique& r, QSize taille) {
         Centrer(*item, QRectF(centre.x() - d / 2, centre.y() + d / 2, d, 14));
     }
 
-    QImage image(taille * kEchelle, QImage::Format_ARGB32_Premultiplied);
+    // Opaque from the start: drawn over white, no pixel is ever transparent, so the picture
+    // needs no conversion afterwards.
+    QImage image(taille * kEchelle, QImage::Format_RGB32);
     image.fill(Qt::white);
     QPainter p(&image);
     p.setRenderHint(QPainter::Antialiasing);
@@ -681,7 +683,7 @@ QImage RendreGraphique(const ReglagesGraphique& r, QSize taille) {
     }
     scene.render(&p, QRectF(QPointF(0, 0), t), QRectF(QPointF(0, 0), t));
     p.end();
-    return image.convertToFormat(QImage::Format_RGB32);
+    return image;
 }
 
 } // namespace verdane::qt

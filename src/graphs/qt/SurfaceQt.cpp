@@ -181,6 +181,14 @@ std::string SurfaceQt::CopierImage() {
     return EncoderPng(RendreGraphique(r_, QSize(kLargeurGraphique, kHauteurGraphique)));
 }
 
+// Qt Charts draws on the thread of the application only (its items are widgets of a scene);
+// the picture drawn is a plain image, which another thread may encode.
+std::function<std::string()> SurfaceQt::CopierImagePlusTard() {
+    QImage image = RendreGraphique(r_, QSize(kLargeurGraphique, kHauteurGraphique));
+    if (image.isNull()) return {};
+    return [image = std::move(image)] { return EncoderPng(image); };
+}
+
 std::unique_ptr<SurfaceGraphique> FabriqueSurfaceQt::Creer() {
     return std::make_unique<SurfaceQt>();
 }

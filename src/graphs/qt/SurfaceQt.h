@@ -82,6 +82,7 @@ public:
 
     void Redessiner() override {}
     std::string CopierImage() override;
+    std::function<std::string()> CopierImagePlusTard() override;
 
 private:
     // The series `serie`, made if needed; null outside 1 to the most a chart takes.

@@ -5,6 +5,7 @@
 #include "shell/console/ConsoleUtilisateur.h"
 #include "shell/main/DernierRecours.h"
 #include "shell/main/Fenetres.h"
+#include "shell/main/Memoire.h"
 #include "shell/main/Plateforme.h"
 #ifdef VERDANE_QT_SHELL
 #include "shell/qt/UtilisateurQt.h"
@@ -50,6 +51,7 @@ int Programme(int argc, char** argv) {
 } // namespace
 
 int main(int argc, char** argv) {
+    verdane::GarderMemoireLiberee();
     return verdane::DernierRecours("verdane", verdane::kSortieEchec,
                                    [&] { return Programme(argc, argv); });
 }

@@ -3,6 +3,7 @@
 #include "shell/Lot.h"
 #include "shell/console/ConsoleUtilisateur.h"
 #include "shell/main/DernierRecours.h"
+#include "shell/main/Memoire.h"
 #include "shell/main/Plateforme.h"
 #include "utils/EcritureSure.h"
 
@@ -54,6 +55,7 @@ int Programme(int argc, char** argv) {
 } // namespace
 
 int main(int argc, char** argv) {
+    verdane::GarderMemoireLiberee();
     return verdane::DernierRecours("verdane-lot", verdane::kSortieEchec,
                                    [&] { return Programme(argc, argv); });
 }

@@ -1,12 +1,17 @@
 // Charts of every kind drawn off screen: real pictures, different from one kind to another,
 // and the settings that change what is seen.
 
+#include "engine/CreationDoc.h"
 #include "graphs/CodeGraph.h"
 #include "graphs/DessinGraphique.h"
 #include "graphs/ImageGraph.h"
 #include "graphs/qt/RenduGraphique.h"
 #include "graphs/qt/SurfaceQt.h"
+#include "support/DossierTemporaire.h"
+#include "support/FauxUtilisateur.h"
 #include "utils/Chaines.h"
+#include "utils/ImageRtf.h"
+#include "utils/OutilsFichiers.h"
 
 #include <QByteArray>
 #include <QImage>
@@ -191,37 +196,54 @@ TEST(SurfaceQt, StrangeSettingsStillGiveAPicture) {
         vide.PoserTypeGraphique(type);
         EXPECT_FALSE(Image(vide.CopierImage()).isNull()) << type;
     }
-}
-
-TEST(SurfaceQt, ReadsBackWhatTheEditorAsksFor) {
-    SurfaceQt s;
-    s.PoserTypeGraphique(kCombinaison3D);
-    EXPECT_TRUE(s.Graphique3D());
-    s.PoserTypeGraphique(kSecteurs2D);
-    EXPECT_FALSE(s.Graphique3D());
-    s.PoserNombreColonnes(2);
-    s.PoserColonne(2);
-    s.PoserLibelleColonne("Lait");
-    EXPECT_EQ(s.TexteLegende(2), "Lait");
-    s.PoserCouleurRemplissage(2, {354, 100, 0});
-    EXPECT_EQ(s.CouleurRemplissage(2), (CouleurGraphique{354, 100, 0}));
     EXPECT_EQ(VersQColor({354, -4, 12}), QColor(255, 0, 12));
-    s.PoserRectanglePlot({1, 2, 3, 4});
-    EXPECT_EQ(s.RectanglePlot().maxY, 4);
 }
 
-TEST(SurfaceQt, AGraphCodeBecomesAPictureInTheDocument) {
-    UtilisateurMuet muet;
-    Contexte ctx(muet);
-    FabriqueSurfaceQt fabrique;
-    ctx.etat.graphes.fabriqueSurface = &fabrique;
-    ctx.etat.nbAnEtude = 4;
-    const Texte rtf = ImageGraphRtf(
-        ctx, "Ma_marge;1;1;1;0;;0;0;2;5;0;0;0;0;0;0;0;0;0;0;0;0;0;0;0;0;0;0;1;1;1;1;;12;30;;12;30;"
-             ";12;30;;12;30;16;[VLVB-1:0;Lait;1;VLVB.don;0;200;40;40;1;1]");
-    EXPECT_EQ(rtf.rfind("{\\pict", 0), 0u);
-    EXPECT_NE(rtf.find("\\pngblip"), Texte::npos);
-    EXPECT_EQ(Rogner(ctx.etat.graphes.graphes[1].titre), "Ma marge");
+// A gph( code of one line series; `titre` and `type` make each chart its own.
+Texte CodeGraphique(const Texte& titre, int type) {
+    return "gph(" + titre + ";" + std::to_string(type) +
+           ";1;1;0;;0;0;2;5;0;0;0;0;0;0;0;0;0;0;0;0;0;0;0;0;0;0;1;1;1;1;;12;30;;12;30;;12;30;;12;"
+           "30;16;[VLVB-1:0;Lait;1;VLVB.don;0;200;40;40;1;1])";
+}
+
+TEST(SurfaceQt, ChartsFinishedOnTheSecondThreadGiveTheSameDocument) {
+    test::DossierTemporaire d;
+    Texte modele = "{\\rtf1\\ansi{\\fonttbl{\\f0 Arial;}}{\\colortbl;\\red0\\green0\\blue0;}\r\n";
+    const int types[] = {kCourbes2D, kBarres3D, kSecteurs2D, kAires2D, kXY2D};
+    for (int i = 0; i < 5; ++i)
+        modele += "\\pard\\plain Texte " + std::to_string(i) +
+                  " #mrl(si(1)alors:" + CodeGraphique("Graphique_" + std::to_string(i), types[i]) +
+                  ")# suite #mrl(saut2page)#\\par\r\n";
+    modele += "#mrl(gph(ancien))#}\r\n";
+    d.Ecrire("modele.vdm", modele);
+    std::string documents[2], travail[2];
+    for (const bool parallele : {false, true}) {
+        test::FauxUtilisateur u;
+        Contexte ctx(u);
+        FabriqueSurfaceQt fabrique;
+        ctx.etat.graphes.fabriqueSurface = &fabrique;
+        ctx.etat.graphes.imagesEnParallele = parallele;
+        ctx.etat.chemins.RepModelGraph = d / ("graphes" + std::to_string(parallele) + "/");
+        ctx.etat.nbAnEtude = 4;
+        const Texte resultat = d / ("resultat" + std::to_string(parallele) + ".rtf");
+        ASSERT_EQ(CreerDocument(ctx, d / "modele.vdm", resultat, false, true, false),
+                  IssueCreation::Faite);
+        documents[parallele] = LireFichier(resultat).value_or("");
+        travail[parallele] = LireFichier(CheminImageGraph(ctx.etat)).value_or("");
+    }
+    EXPECT_EQ(documents[1], documents[0]);
+    std::size_t images = 0;
+    for (auto n = documents[1].find("{\\pict"); n != Texte::npos;
+         n = documents[1].find("{\\pict", n + 1))
+        ++images;
+    EXPECT_EQ(images, 5u);
+    EXPECT_EQ(documents[1].find('\0'), Texte::npos);
+    // The work file holds the last chart, as when each overwrites it in turn.
+    EXPECT_FALSE(travail[0].empty());
+    EXPECT_EQ(travail[1], travail[0]);
+    EXPECT_NE(ImageVersRtf(travail[1], kLargeurImageGraphTwips), "");
+    EXPECT_NE(documents[1].find(Texte(ImageVersRtf(travail[1], kLargeurImageGraphTwips))),
+              Texte::npos);
 }
 
 } // namespace
