@@ -2,6 +2,7 @@
 
 #include "EssaisRendu.h"
 #include "shell/console/ConsoleUtilisateur.h"
+#include "support/Morceaux.h"
 #include "tables/GenererTableau.h"
 
 #include <gtest/gtest.h>
@@ -98,8 +99,7 @@ TEST_F(MultiDossiersTest, DossiersImposesSansQuestion) {
     EXPECT_EQ(rangees[1], (std::vector<Texte>{"An 1", "20"}));
     EXPECT_EQ(u.demandes.size(), 0);
     ctx.etat.nbDossiersImposes = 2;
-    rangees = Rangees(Tableau2("tabd1p1"));
-    EXPECT_EQ(rangees[1], (std::vector<Texte>{"An 1", "20"}));
+    EXPECT_EQ(Rangees(Tableau2("tabd1p1"))[1], (std::vector<Texte>{"An 1", "20"}));
     rangees = Rangees(Tableau2("tabd2p1"));
     EXPECT_EQ(rangees[1], (std::vector<Texte>{"An 1", "20", "200"}));
     EXPECT_EQ(u.demandes.size(), 0);
@@ -126,40 +126,35 @@ struct Flux {
     std::FILE* err;
 };
 
-TEST(ConsoleDossiersTest, AuTerminal) {
-    Flux f("3\n\n/donn\xC3\xA9"
-           "es/Marlo/MARTIN/\n\n");
-    ConsoleUtilisateur console(f.in, true, f.err, false);
-    int nombre = 2;
+TEST(ConsoleDossiersTest, AuTerminalOuSans) {
     std::vector<DossierCompare> dossiers(9);
     dossiers[0] = {"/a/", "DUPONT"};
-    ASSERT_TRUE(
-        console.ChoisirDossiers(kTitreMultiDossier, kConsigneMultiDossier, nombre, dossiers));
-    EXPECT_EQ(nombre, 3);
-    EXPECT_EQ(dossiers[0].nom, "DUPONT");
-    EXPECT_EQ(dossiers[1].repertoire, "/donn\xE9"
-                                      "es/Marlo/");
-    EXPECT_EQ(dossiers[1].nom, "MARTIN");
-    EXPECT_TRUE(dossiers[2].nom.empty());
-    EXPECT_NE(f.Sortie().find("Dossier 1 [/a/DUPONT] ?"), std::string::npos);
-}
-
-TEST(ConsoleDossiersTest, SansTerminal) {
+    int nombre = 2;
+    {
+        Flux f("3\n\n/donn\xC3\xA9"
+               "es/Marlo/MARTIN/\n\n");
+        ConsoleUtilisateur console(f.in, true, f.err, false);
+        ASSERT_TRUE(
+            console.ChoisirDossiers(kTitreMultiDossier, kConsigneMultiDossier, nombre, dossiers));
+        EXPECT_EQ(nombre, 3);
+        EXPECT_EQ(dossiers[0].nom, "DUPONT");
+        EXPECT_EQ(dossiers[1].repertoire, "/donn\xE9"
+                                          "es/Marlo/");
+        EXPECT_EQ(dossiers[1].nom, "MARTIN");
+        EXPECT_TRUE(dossiers[2].nom.empty());
+        EXPECT_NE(f.Sortie().find("Dossier 1 [/a/DUPONT] ?"), std::string::npos);
+    }
     Flux f("");
     ConsoleUtilisateur console(f.in, false, f.err, false);
-    int nombre = 2;
-    std::vector<DossierCompare> dossiers(9);
-    dossiers[0] = {"/a/", "DUPONT"};
+    nombre = 2;
     dossiers[1] = {"/b", "MARTIN"};
     EXPECT_TRUE(
         console.ChoisirDossiers(kTitreMultiDossier, kConsigneMultiDossier, nombre, dossiers));
     EXPECT_EQ(nombre, 2);
-    const std::string sortie = f.Sortie();
-    EXPECT_NE(sortie.find("comparaison des dossiers pr\xC3\xA9"
-                          "c\xC3\xA9"
-                          "dents"),
-              std::string::npos);
-    EXPECT_NE(sortie.find("Dossier 2 : /b/MARTIN"), std::string::npos);
+    EXPECT_TRUE(test::Contient(f.Sortie(), {"comparaison des dossiers pr\xC3\xA9"
+                                            "c\xC3\xA9"
+                                            "dents",
+                                            "Dossier 2 : /b/MARTIN"}));
 }
 
 } // namespace
