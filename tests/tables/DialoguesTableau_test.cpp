@@ -196,14 +196,12 @@ TEST_F(DialoguesTableauTest, ParametresEnregistres) {
     EXPECT_EQ(PaireDefaut(relu.options, 0)[0], "0;0;0;0;8");
 }
 
-TEST(SeriesProposees, CataloguesDuDossierDatacfg) {
+TEST(SeriesProposees, CataloguesRangesParNomQuelleQueSoitLaCasse) {
     test::DossierTemporaire dossier;
-    EXPECT_TRUE(SeriesProposees(dossier.Chemin() + "absent/").racine.enfants.empty());
     dossier.Ecrire("Datacfg/VLVB.CFG",
                    test::FichierCatalogue("Vaches", 1, {{"VLVB-1", "Effectif"}}));
     dossier.Ecrire("Datacfg/ABCD.cfg",
                    test::FichierCatalogue("Autre", 1, {{"ABCD-1", "Effectif"}}));
-    dossier.Ecrire("Datacfg/notes.txt", "rien");
     ArbreCatalogue arbre = SeriesProposees(dossier.Chemin() + "Datacfg/");
     ASSERT_EQ(arbre.racine.enfants.size(), 2u);
     EXPECT_EQ(arbre.racine.enfants[0].texte, "Autre"); // in name order

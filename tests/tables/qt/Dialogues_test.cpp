@@ -53,8 +53,8 @@ protected:
 };
 
 // The line dialog driven through its controls: the header's form, the totals simple and free
-// (and the refusal of a line below), the predefined lines, a cell's text format and the key of
-// a repeated table's value.
+// (and the refusal of a line below), a cell's text format and the key of a repeated table's
+// value taken from its tree.
 TEST_F(DialoguesTest, FrmTexteComposeLaDefinitionParSesControles) {
     tableau.lignes[2].definition = "entete:1:Début&Fin";
     {
@@ -90,21 +90,12 @@ TEST_F(DialoguesTest, FrmTexteComposeLaDefinitionParSesControles) {
     EXPECT_NE(refus.result(), QDialog::Accepted);
     EXPECT_FALSE(utilisateur.messages.empty());
 
-    refus.ComboGenre->setCurrentIndex(static_cast<int>(TypeLigne::Predefinies));
-    const auto primes = refus.TreeViewPredefinies->findItems(VersQt("Primes cultures fourragères"),
-                                                             Qt::MatchExactly | Qt::MatchRecursive);
-    ASSERT_EQ(primes.size(), 1);
-    refus.TreeViewPredefinies->setCurrentItem(primes[0]);
-    refus.TreeViewPredefinies->setCurrentItem(primes[0]->parent()); // a folder writes nothing
-    EXPECT_EQ(refus.Ligne().definition, "prime:p4ricf");
-
     refus.ComboCellule->setCurrentIndex(1);
     refus.CheckGras->setChecked(false);
     refus.CheckItalique->setChecked(true);
     refus.ComboAlignement->setCurrentIndex(2);
     refus.ComboPolice->setCurrentIndex(10);
     EXPECT_EQ(refus.Ligne().cellules[0].formatTexte, "5010;10;1;0;1;0;0;0;r");
-    EXPECT_EQ(refus.Ligne().formatTexte, tableau.lignes[1].formatTexte);
 
     refus.ComboGenre->setCurrentIndex(static_cast<int>(TypeLigne::SerieActivite));
     const auto ugb =
