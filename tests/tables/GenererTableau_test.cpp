@@ -15,24 +15,15 @@
 namespace verdane {
 namespace {
 
+using essais_rendu::Code;
 using essais_rendu::FichierDon;
+using essais_rendu::kLibelle;
+using essais_rendu::kValeurs;
+using essais_rendu::L;
 using essais_rendu::Rangees;
 using essais_rendu::RenduTest;
 using essais_rendu::Serie;
 using test::Compter;
-
-constexpr const char* kLibelle = ";5006;10;1;0;0;0;0;0;l;1;1;1;1;16";
-constexpr const char* kValeurs = ";5006;10;1;0;0;0;0;0;r;1;1;1;1;8";
-
-Texte L(const Texte& libelle, const Texte& definition) {
-    return "[280;120][" + libelle + kLibelle + "][" + definition + kValeurs + "]";
-}
-
-Texte Code(const Texte& tete, const std::vector<Texte>& lignes) {
-    Texte c = tete + "(";
-    for (std::size_t i = 0; i < lignes.size(); ++i) c += (i ? "#" : "") + lignes[i];
-    return c + ")";
-}
 
 const std::vector<Texte> kLignesCompletes = {
     L("Campagne", "entete:1:a&b"),

@@ -13,10 +13,10 @@
 namespace verdane {
 namespace {
 
+using essais_rendu::Code;
+using essais_rendu::L;
 using essais_rendu::Rangees;
 using essais_rendu::RenduTest;
-
-constexpr const char* kF = ";5006;10;1;0;0;0;0;0;r;1;1;1;1;8";
 
 class MultiDossiersTest : public RenduTest {
 protected:
@@ -28,11 +28,10 @@ protected:
         };
     }
     Texte Tableau2(const Texte& tete) {
-        return GenererTableau(ctx, tete + "([280;120][Dossier" + kF + "][entete:1:x" + kF +
-                                       "]#[280;120][An_1" + kF + "][1@serie:PROD.DON+PROD-1:0:0" +
-                                       kF + "]#[280;120][An_0" + kF +
-                                       "][serie:PROD.DON+PROD-1:0:0" + kF + "]#[280;120][Double" +
-                                       kF + "][totalC:LG2*2:0:0" + kF + "])");
+        return GenererTableau(
+            ctx,
+            Code(tete, {L("Dossier", "entete:1:x"), L("An_1", "1@serie:PROD.DON+PROD-1:0:0"),
+                        L("An_0", "serie:PROD.DON+PROD-1:0:0"), L("Double", "totalC:LG2*2:0:0")}));
     }
     bool repondre = true;
     int nombreChoisi = 0;
@@ -64,10 +63,10 @@ TEST_F(MultiDossiersTest, ColonnesDeDossiers) {
 TEST_F(MultiDossiersTest, LesReferencesDeSerieLisentLeDossierCourant) {
     // LG(...) reads slot 0 (factor 1) at the year of the column number, whatever the column's
     // dossier; LGn reads the column's own values.
-    const auto rangees = Rangees(GenererTableau(
-        ctx, Texte("tabd2p1([280;120][Courant") + kF + "][totalC:LG(PROD-1)+0:0:0" + kF +
-                 "]#[280;120][Colonne" + kF + "][3@serie:PROD.DON+PROD-1:0:0" + kF +
-                 "]#[280;120][Double" + kF + "][totalS:LG2+LG2:0:0" + kF + "])"));
+    const auto rangees =
+        Rangees(GenererTableau(ctx, Code("tabd2p1", {L("Courant", "totalC:LG(PROD-1)+0:0:0"),
+                                                     L("Colonne", "3@serie:PROD.DON+PROD-1:0:0"),
+                                                     L("Double", "totalS:LG2+LG2:0:0")})));
     ASSERT_EQ(rangees.size(), 3u);
     EXPECT_EQ(rangees[0], (std::vector<Texte>{"Courant", "2", "3"}));
     EXPECT_EQ(rangees[1], (std::vector<Texte>{"Colonne",
