@@ -105,6 +105,7 @@ TEST(CodeTableau, AllerRetourDeModeles) {
     modeles.push_back(vide);
     // Blanks are written as "_" and come back as blanks.
     TableauModele blancs;
+    blancs.nbColonnes = 2;
     blancs.lignes = {Ligne("Mon libellé  ", "totalC:LG1 + LG2")};
     modeles.push_back(blancs);
 
