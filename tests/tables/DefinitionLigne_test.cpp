@@ -75,9 +75,6 @@ TEST(StyleCellule, LectureEcritureEtDefauts) {
     s = LireStyleCellule("12;0", "1", options);
     EXPECT_EQ(FormatTexteDe(s), "5006;0;1;0;0;0;0;0;r");
     EXPECT_EQ(FormatCadreDe(s), "1;0;0;0;8");
-    // A new plain cell.
-    EXPECT_EQ(FormatTexteDe(StyleCellule{}) + ";" + FormatCadreDe(StyleCellule{}),
-              "5006;10;1;0;0;0;0;0;c;1;1;1;1;8");
 }
 
 } // namespace

@@ -79,10 +79,8 @@ TEST(LireEnteteTableau, PiecesPresentesAbsentesOuIllisibles) {
         // Another letter in place of the dossier mode consumes nothing.
         {"tabp2c;larg1;larg2;larg3(", 0, 2, 2, 1, 0, 0, {1, 2, 1000}, 3},
         {"taba2p2;larg12cm;larg99999999;larg-40(", 0, 2, 2, 0, 0, 0, {0, 0, 1000}, -40},
-        {"taba2p2;larg;larg;larg(", 0, 2, 2, 0, 0, 0, {0, 0, 1000}, 0},
         // Label columns: one character, a non-digit reads 0; "p12" is 1 column, year mode 2.
         {"taba2p0;larg5000(", 0, 2, 0, 0, 0, 0, {1000, 1000, 1000}, 5000},
-        {"taba2px", 0, 2, 0, 0, 0, 0, {1000, 1000, 1000}, 7200},
         {"taba2p12", 0, 2, 1, 0, 0, 2, {1000, 1000, 1000}, 7200},
         {"taba", 0, 0, 1, 0, 0, 0, {1000, 1000, 1000}, 7200},
         {"", 0, 2, 1, 0, 0, 0, {1000, 1000, 1000}, 7200},

@@ -151,10 +151,8 @@ TEST_F(DialoguesTest, Captures) {
     *e.Tableau() = tableau;
     e.Tableau()->nom = "Produits laitiers";
     e.Tableau()->nbColonnes = 2;
-    for (int n : {0, 1, 2})
-        e.Tableau()->lignes[n].cellules[0].texte = n == 0   ? "Lait vendu"
-                                                   : n == 1 ? "Viande"
-                                                            : "TOTAL";
+    const char* libelles[] = {"Lait vendu", "Viande", "TOTAL"};
+    for (std::size_t n = 0; n < 3; ++n) e.Tableau()->lignes[n].cellules[0].texte = libelles[n];
     e.Tableau()->lignes[2].definition = "totalS:LG1+LG2:0:0";
     LigneModele entete = NouvelleLigne(ctx.etat.options);
     AppliquerTypeLigne(entete, TypeLigne::Intitule, ctx.etat.options, 2);
