@@ -2,13 +2,11 @@
 
 #include "EssaisTableaux.h"
 #include "shell/etat/Contexte.h"
+#include "support/DossierTemporaire.h"
 #include "tables/LectureCode.h"
 #include "utils/OutilsFichiers.h"
 
 #include <gtest/gtest.h>
-
-#include <filesystem>
-#include <fstream>
 
 namespace verdane {
 namespace {
@@ -17,24 +15,12 @@ using namespace essais_tableaux;
 
 class BibliothequeTableaux : public ::testing::Test {
 protected:
-    BibliothequeTableaux() : ctx(utilisateur) {
-        dossier = std::filesystem::temp_directory_path() /
-                  ("verdane_tableaux_" +
-                   std::to_string(::testing::UnitTest::GetInstance()->current_test_info()->line()));
-        std::filesystem::remove_all(dossier);
-        std::filesystem::create_directories(dossier / "PDE");
-    }
-    ~BibliothequeTableaux() override { std::filesystem::remove_all(dossier); }
-
-    Texte Chemin(const char* nom) const { return CheminTexte(dossier) + "/" + nom; }
-    void Ecrire(const char* nom, const std::string& contenu) const {
-        std::ofstream(CheminSysteme(Chemin(nom)), std::ios::binary) << contenu;
-    }
+    BibliothequeTableaux() : ctx(utilisateur) {}
     std::vector<TableauModele>& Tableaux() { return ctx.etat.tableaux.TableauxCourants; }
 
+    test::DossierTemporaire dossier;
     UtilisateurTemoin utilisateur;
     Contexte ctx;
-    std::filesystem::path dossier;
 };
 
 TEST_F(BibliothequeTableaux, EcritureEtRelectureSansPerte) {
@@ -47,24 +33,25 @@ TEST_F(BibliothequeTableaux, EcritureEtRelectureSansPerte) {
     b.dossier = "Divers";
     b.genre = kTableauCulture;
     b.pageDebut = 3;
+    // A table with a line still to define is saved whole, silently.
+    b.lignes[4].definition.clear();
     TableauModele c;
     c.nom = "Vide";
     c.dossier = "Divers";
-    Tableaux() = {a, b, c};
+    const std::vector<TableauModele> ecrits = {a, b, c};
+    Tableaux() = ecrits;
 
-    const Texte chemin = Chemin("tableaux.txt");
+    const Texte chemin = dossier.Ecrire("PDE/tableaux.txt", "");
     ASSERT_TRUE(EcrireTableaux(ctx, chemin));
     const auto premier = LireFichier(chemin);
     ASSERT_TRUE(premier);
     EXPECT_TRUE(premier->starts_with("[Marge brute à l'hectare][Résultats][Cultures]\r\n#mrl(tab"));
     EXPECT_TRUE(premier->ends_with(")#\r\n\r\n"));
 
+    // Found again whatever the case of its name.
     Tableaux().clear();
-    ChargerTableaux(ctx, chemin, true);
-    ASSERT_EQ(Tableaux().size(), 3u);
-    EXPECT_EQ(Tableaux()[0], a);
-    EXPECT_EQ(Tableaux()[1], b);
-    EXPECT_EQ(Tableaux()[2], c);
+    ChargerTableaux(ctx, dossier.Chemin() + "\\pde\\TABLEAUX.TXT", true);
+    EXPECT_EQ(Tableaux(), ecrits);
     ASSERT_TRUE(EcrireTableaux(ctx, chemin));
     EXPECT_EQ(LireFichier(chemin), premier);
     EXPECT_TRUE(utilisateur.messages.empty());
@@ -149,28 +136,13 @@ TEST_F(BibliothequeTableaux, UneMarqueIllisibleArreteLaLecture) {
 }
 
 TEST_F(BibliothequeTableaux, FichierAbsentOuVide) {
-    Tableaux() = {TableauModele{}};
-    ChargerTableaux(ctx, Chemin("absent.txt"), true);
-    EXPECT_TRUE(Tableaux().empty());
-    Ecrire("vide.txt", "");
-    Tableaux() = {TableauModele{}};
-    ChargerTableaux(ctx, Chemin("vide.txt"), true);
-    EXPECT_TRUE(Tableaux().empty());
+    dossier.Ecrire("vide.txt", "");
+    for (const char* nom : {"absent.txt", "vide.txt"}) {
+        Tableaux() = {TableauModele{}};
+        ChargerTableaux(ctx, dossier / nom, true);
+        EXPECT_TRUE(Tableaux().empty()) << nom;
+    }
     EXPECT_TRUE(utilisateur.messages.empty());
-}
-
-TEST_F(BibliothequeTableaux, UnTableauIncompletSeSauveEnEntier) {
-    TableauModele a = ModeleComplet();
-    a.nom = "Page 3";
-    a.dossier = "PDE";
-    a.lignes[4].definition.clear();
-    Tableaux() = {a};
-    ASSERT_TRUE(EcrireTableaux(ctx, Chemin("PDE/tableaux.txt")));
-    EXPECT_TRUE(utilisateur.messages.empty()); // the library is written silently
-    // Found again whatever the case of its name; its line to define is still there.
-    ChargerTableaux(ctx, CheminTexte(dossier) + "\\pde\\TABLEAUX.TXT", true);
-    ASSERT_EQ(Tableaux().size(), 1u);
-    EXPECT_EQ(Tableaux()[0], a);
 }
 
 } // namespace

@@ -41,50 +41,32 @@ TEST(Calculateur, PrioritesCommeUnTableur) {
                      {"--+-4", -4},
                      {"1&2", 12},
                      {"1&2+3", 15}, // & is looser than +
-                     {"(150 + COS(45)) * 10^4", (150 + std::cos(45.0)) * 1e4}});
-}
-
-TEST(Calculateur, ComparaisonsDonnentUnOuZero) {
-    VerifierValeurs({
-        {"1+2=3", 1},
-        {"1<2", 1},
-        {"2<1", 0},
-        {"2<=2", 1},
-        {"3>=4", 0},
-        {"4>3", 1},
-        {"1<>1", 0},
-        {"1<>2", 1},
-        {"2>1+2", 0},
-        {"0.1+0.2=0.3", 1},
-        {"(1<2)+(2<3)", 2},
-        {"1<2<3", 1},
-        {"3>2>1", 0}, // (3>2)>1 is 1>1
-    });
+                     {"(150 + COS(45)) * 10^4", (150 + std::cos(45.0)) * 1e4},
+                     // Comparisons give 1 or 0, looser than arithmetic, left to right.
+                     {"2<=2", 1},
+                     {"1<>1", 0},
+                     {"2>1+2", 0},
+                     {"0.1+0.2=0.3", 1},
+                     {"(1<2)+(2<3)", 2},
+                     {"1<2<3", 1},
+                     {"3>2>1", 0}}); // (3>2)>1 is 1>1
 }
 
 TEST(Calculateur, NombresEtSeparateurs) {
     VerifierValeurs({{"1,5*2", 3},
                      {"1.5*2", 3},
                      {".5", 0.5},
-                     {"1.", 1},
-                     {"1E3", 1000},
-                     {"2.5e-1", 0.25},
                      {"1,5E+2", 150},
                      {" 1 +\t1 ", 2},
                      {"=1+1", 2},
-                     {"MIN(1,5;2)", 1.5},
                      {"MIN(1, 5)", 1},
-                     {"MAX(1.5,2)", 2},
-                     {"SUM(1;2,5;3)", 6.5},
                      {"SUM(1,2,3)", 1.2 + 3}, // a comma between digits is a decimal
                      {"007", 7}});
 }
 
-TEST(Calculateur, ChaqueFonctionDonneSaValeurConnue) {
+TEST(Calculateur, FonctionsAuxBordsDeLeurDomaine) {
     const double pi = std::numbers::pi;
-    VerifierValeurs({{"ABS(-3)", 3},
-                     {"INT(-2.5)", -3},
-                     {"TRUNC(3.14159;2)", 3.14},
+    VerifierValeurs({{"INT(-2.5)", -3},
                      {"TRUNC(0.29;2)", 0.29},
                      {"ROUND(2.675;2)", 2.68},
                      {"ROUND(-2.5)", -3},
@@ -93,37 +75,11 @@ TEST(Calculateur, ChaqueFonctionDonneSaValeurConnue) {
                      {"ROUNDDOWN(-1.29;1)", -1.2},
                      {"MOD(-1;3)", 2},
                      {"MOD(7;-3)", -2},
-                     {"SQRT(16)", 4},
-                     {"POWER(2;10)", 1024},
-                     {"EXP(1)", std::numbers::e},
-                     {"LN(EXP(2))", 2},
-                     {"LOG(100)", 2},
                      {"LOG(8;2)", 3},
-                     {"LOG10(1000)", 3},
-                     {"PI()", pi},
-                     {"SIN(PI()/2)", 1},
-                     {"COS(0)", 1},
-                     {"TAN(PI()/4)", 1},
-                     {"ATAN(1)", pi / 4},
                      {"ATAN2(-1;0)", pi},
-                     {"ASIN(1)", pi / 2},
-                     {"ACOS(1)", 0},
-                     {"DEGREES(PI())", 180},
-                     {"RADIANS(90)", pi / 2},
-                     {"SIGN(-4)", -1},
-                     {"MIN(3;1;2)", 1},
-                     {"MAX(3;1;2)", 3},
-                     {"SUM(1;2;3)", 6},
-                     {"PRODUCT(2;3;4)", 24},
-                     {"AVERAGE(1;2;6)", 3},
-                     {"IF(1;2;3)", 2},
-                     {"IF(0;2;3)", 3},
                      {"IF(0;2)", 0},
-                     {"AND(1;0)", 0},
                      {"OR(0;3)", 1},
-                     {"NOT(0)", 1},
                      {"sqrt(4)+Sum(1;1)", 4}, // names without regard to case
-                     {"SOMME(1;2)+MOYENNE(2;4)", 6},
                      {"SI(ET(1;OU(0;1));ARRONDI(1.25;1);0)", 1.3},
                      {"RACINE(9)+ENT(-0.5)+PUISSANCE(2;2)", 6}});
 }
@@ -147,10 +103,8 @@ TEST(Calculateur, SiNePrendQueLEchecDeSaBranche) {
 }
 
 TEST(Calculateur, LisibleSeparentLaSyntaxeDuCalcul) {
-    EXPECT_TRUE(CalculLisible("1/0"));
-    EXPECT_TRUE(CalculLisible("SQRT(-1)+IF(1;2;3)"));
+    EXPECT_TRUE(CalculLisible("SQRT(-1)+1/0"));
     EXPECT_FALSE(CalculLisible("FOO(1)"));
-    EXPECT_FALSE(CalculLisible("(1"));
     EXPECT_FALSE(CalculLisible("MOD(1)"));
 }
 
@@ -161,7 +115,6 @@ TEST(Calculateur, ProfondeurBornee) {
     };
     EXPECT_EQ(Calculer(imbrique(kProfondeurMaxCalcul)), 1.0);
     EXPECT_FALSE(Calculer(imbrique(kProfondeurMaxCalcul + 1)).has_value());
-    EXPECT_FALSE(Calculer(imbrique(50000)).has_value()); // 100 KB
     EXPECT_FALSE(Calculer(std::string(100000, '(')).has_value());
     std::string fonctions;
     for (int i = 0; i < 20000; ++i) fonctions += "ABS(";

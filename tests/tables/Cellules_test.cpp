@@ -1,6 +1,7 @@
 #include "tables/Cellules.h"
 
 #include "EssaisRendu.h"
+#include "support/Morceaux.h"
 #include "utils/Chaines.h"
 
 #include <gtest/gtest.h>
@@ -11,6 +12,7 @@ namespace {
 using essais_rendu::BordsDroits;
 using essais_rendu::RenduTest;
 using essais_rendu::TextesCellules;
+using test::Exclut;
 
 constexpr const char* kValeur = ";5006;10;1;0;0;0;0;0;r;1;1;1;1;8";
 
@@ -54,98 +56,62 @@ TEST_F(RenduTest, CelluleDeLibelle) {
     EXPECT_EQ(definitions, "\\clvertalc\\clcbpat8\\cellx1500");
 }
 
-TEST_F(RenduTest, SerieParAnneeAvecLargeursEtValeursRelues) {
-    // Three study years: three cells of 7200 / 3, values read back with their thousands mark.
-    Tableau("tabp1;larg1500;larg7200([280;120][x][serie:PROD.DON+PROD-1:2:0" + Texte(kValeur) +
-            "])");
+// The value cells of a line: definitions and cells of `definition` as the engine lays them.
+struct CellulesValeurs {
     Texte definitions, cellules;
-    int position = 1500;
-    std::int16_t mode = 0;
-    AjouterCellules(ctx, "serie:PROD.DON+PROD-1:2:0" + Texte(kValeur), definitions, cellules,
-                    position, false, mode);
-    EXPECT_EQ(TextesCellules(cellules), (std::vector<Texte>{"2,00", "3,00",
-                                                            "1\xA0"
-                                                            "234,50"}));
-    EXPECT_EQ(BordsDroits(definitions), (std::vector<int>{3900, 6300, 8700}));
-    EXPECT_EQ(position, 8700);
-    EXPECT_FLOAT_EQ(Valeur(3, 1), 1234.5f);
-    EXPECT_FLOAT_EQ(Valeur(1, 1), 2.0f);
-    EXPECT_TRUE(u.messages.empty());
+};
+CellulesValeurs Valeurs(Contexte& ctx, const Texte& definition, std::int16_t mode = 0) {
+    CellulesValeurs r;
+    int position = 0;
+    AjouterCellules(ctx, definition, r.definitions, r.cellules, position, false, mode);
+    return r;
 }
 
-TEST_F(RenduTest, ModesAnnees) {
+TEST_F(RenduTest, LargeursSelonLesModesDAnnees) {
+    const Texte serie = "serie:PROD.DON+PROD-1:0:0" + Texte(kValeur);
     // Mode 1 with ten years: eleven cells, each a tenth of the block (wider than the block).
     ctx.etat.nbAnEtude = 10;
     Tableau("tabp11;larg1000;larg7200([280;120][x][serie:PROD.DON+PROD-1:0:0])");
-    Texte definitions, cellules;
-    int position = 0;
-    std::int16_t mode = kAnneeDebutEtToutes;
-    AjouterCellules(ctx, "serie:PROD.DON+PROD-1:0:0" + Texte(kValeur), definitions, cellules,
-                    position, false, mode);
-    const auto bords = BordsDroits(definitions);
+    auto c = Valeurs(ctx, serie, kAnneeDebutEtToutes);
+    const auto bords = BordsDroits(c.definitions);
     ASSERT_EQ(bords.size(), 11u);
     EXPECT_EQ(bords.front(), 720);
     EXPECT_EQ(bords.back(), 7920);
-    EXPECT_EQ(TextesCellules(cellules)[0], "1"); // column 0: the start year
+    EXPECT_EQ(TextesCellules(c.cellules)[0], "1"); // column 0: the start year
 
     // Mode 2 with three years: first and last, each a third of the block; the middle zeroed.
     ctx.etat.nbAnEtude = 3;
     ctx.etat.tableaux.valeursLignes[2][1] = 99.0f;
-    definitions.clear();
-    cellules.clear();
-    position = 0;
-    mode = kPremiereEtDerniere;
-    AjouterCellules(ctx, "serie:PROD.DON+PROD-1:0:0" + Texte(kValeur), definitions, cellules,
-                    position, false, mode);
-    EXPECT_EQ(TextesCellules(cellules), (std::vector<Texte>{"2", "1\xA0"
-                                                                 "234"}));
-    EXPECT_EQ(BordsDroits(definitions), (std::vector<int>{2400, 4800}));
+    c = Valeurs(ctx, serie, kPremiereEtDerniere);
+    EXPECT_EQ(TextesCellules(c.cellules), (std::vector<Texte>{"2", "1\xA0"
+                                                                   "234"}));
+    EXPECT_EQ(BordsDroits(c.definitions), (std::vector<int>{2400, 4800}));
     EXPECT_EQ(Valeur(2, 1), 0.0f);
-
     // Mode 3: no value cell at all.
-    definitions.clear();
-    cellules.clear();
-    mode = kSansValeurs;
-    AjouterCellules(ctx, "serie:PROD.DON+PROD-1:0:0" + Texte(kValeur), definitions, cellules,
-                    position, false, mode);
-    EXPECT_TRUE(cellules.empty());
-    EXPECT_TRUE(definitions.empty());
-}
+    c = Valeurs(ctx, serie, kSansValeurs);
+    EXPECT_TRUE(c.cellules.empty() && c.definitions.empty());
 
-TEST_F(RenduTest, LargeurArrondieAuPairEtBornee) {
+    // Widths are rounded to even: 10 / 4 = 2.5 -> 2; an unknown kind prints its definition.
     ctx.etat.nbAnEtude = 4;
-    Tableau("tabp1;larg1000;larg10([280;120][x][inconnu])"); // 10 / 4 = 2.5 -> 2
-    Texte definitions, cellules;
-    int position = 0;
-    std::int16_t mode = 0;
-    AjouterCellules(ctx, "inconnu", definitions, cellules, position, false, mode);
-    EXPECT_EQ(BordsDroits(definitions), (std::vector<int>{2, 4, 6, 8}));
-    // An unknown kind prints its definition in each cell.
-    EXPECT_EQ(TextesCellules(cellules), (std::vector<Texte>(4, "inconnu")));
+    Tableau("tabp1;larg1000;larg10([280;120][x][inconnu])");
+    c = Valeurs(ctx, "inconnu");
+    EXPECT_EQ(BordsDroits(c.definitions), (std::vector<int>{2, 4, 6, 8}));
+    EXPECT_EQ(TextesCellules(c.cellules), (std::vector<Texte>(4, "inconnu")));
 }
 
-TEST_F(RenduTest, NegatifsEnRougeEtZerosVides) {
+TEST_F(RenduTest, NegatifsEnRougeEtValeursPosees) {
     ctx.etat.decalageCouleurs = 2;
-    Texte definitions, cellules;
-    int position = 0;
-    std::int16_t mode = 0;
-    // Without "r" a negative value keeps the format's colour.
+    const Texte perte = "serie:PROD.DON+PROD-2:0:0;5006;10;4;0;0;0;0;0;r;1;1;1;1;8";
+    // Without "r" a negative value keeps the format's colour; with it every one turns red.
     Tableau("tabp1([280;120][x][serie:PROD.DON+PROD-2:0:0])");
-    AjouterCellules(ctx, "serie:PROD.DON+PROD-2:0:0;5006;10;4;0;0;0;0;0;r;1;1;1;1;8", definitions,
-                    cellules, position, false, mode);
-    EXPECT_EQ(cellules.find("\\cf8"), Texte::npos);
-    EXPECT_NE(cellules.find("\\cf6"), Texte::npos);
-    // With "r" every negative cell turns red (6 + shift).
+    const Texte noirs = Valeurs(ctx, perte).cellules;
+    EXPECT_TRUE(Exclut(noirs, {"\\cf8"}));
+    EXPECT_TRUE(test::Contient(noirs, {"\\cf6"}));
     Tableau("tabp1r([280;120][x][serie:PROD.DON+PROD-2:0:0])");
-    cellules.clear();
-    AjouterCellules(ctx, "serie:PROD.DON+PROD-2:0:0;5006;10;4;0;0;0;0;0;r;1;1;1;1;8", definitions,
-                    cellules, position, false, mode);
-    EXPECT_EQ(cellules.find("\\cf6 "), Texte::npos);
-    EXPECT_EQ(TextesCellules(cellules), (std::vector<Texte>{"-2", "-3", "-4"}));
-    std::size_t rouges = 0;
-    for (auto p = cellules.find("\\cf8 "); p != Texte::npos; p = cellules.find("\\cf8 ", p + 1))
-        ++rouges;
-    EXPECT_EQ(rouges, 3u);
+    const Texte rouges = Valeurs(ctx, perte).cellules;
+    EXPECT_TRUE(Exclut(rouges, {"\\cf6 "}));
+    EXPECT_EQ(TextesCellules(rouges), (std::vector<Texte>{"-2", "-3", "-4"}));
+    EXPECT_EQ(test::Compter(rouges, "\\cf8 "), 3);
 
     // Zero prints as an empty cell and is stored as 0; a missing file reads as 0 too.
     Texte zero = "0,00", c;
@@ -170,38 +136,30 @@ TEST_F(RenduTest, NegatifsEnRougeEtZerosVides) {
 
 TEST_F(RenduTest, ReglesDesValeursNulles) {
     const Texte zeros = "serie:PROD.DON+PROD-3:0:";
-    Texte definitions, cellules;
-    int position = 0;
-    std::int16_t mode = 0;
-    auto Cellules = [&](const Texte& regle, int ligne) {
-        Tableau("tabp1([280;120][Rien][" + zeros + regle + "])", ligne);
-        definitions.clear();
-        cellules.clear();
-        AjouterCellules(ctx, zeros + regle + kValeur, definitions, cellules, position, false, mode);
-        return cellules;
+    auto Cellules = [&](const Texte& regle) {
+        Tableau("tabp1([280;120][Rien][" + zeros + regle + "])", 1);
+        return Valeurs(ctx, zeros + regle + kValeur).cellules;
     };
-    EXPECT_TRUE(EstValeursNulles(Cellules("1", 1)));
-    EXPECT_FALSE(EstValeursNulles(Cellules("0", 1)));
-    EXPECT_FALSE(EstValeursNulles(Cellules("9", 1)));
+    EXPECT_TRUE(EstValeursNulles(Cellules("1")));
+    EXPECT_FALSE(EstValeursNulles(Cellules("0")));
+    EXPECT_FALSE(EstValeursNulles(Cellules("9")));
     EXPECT_TRUE(u.questions.empty());
     // Rule 2 asks, and the default answer keeps the line.
-    EXPECT_FALSE(EstValeursNulles(Cellules("2", 1)));
+    EXPECT_FALSE(EstValeursNulles(Cellules("2")));
     ASSERT_EQ(u.questions.size(), 1u);
     EXPECT_EQ(u.questions[0].texte, "La ligne serie 'Rien' d'un tableau ne contient que des "
                                     "valeurs nulles. \r\nSouhaitez-vous l'afficher dans le "
                                     "document ?");
     EXPECT_EQ(u.questions[0].parDefaut, Reponse::Oui);
     u.reponses.push_back(Reponse::Non);
-    EXPECT_TRUE(EstValeursNulles(Cellules("2", 1)));
+    EXPECT_TRUE(EstValeursNulles(Cellules("2")));
     // Rule 3 drops even a line of values, which stay readable by formulas.
     Tableau("tabp1([280;120][x][serie:PROD.DON+PROD-1:0:3])", 5);
-    cellules.clear();
-    AjouterCellules(ctx, "serie:PROD.DON+PROD-1:0:3", definitions, cellules, position, false, mode);
-    EXPECT_TRUE(EstValeursNulles(cellules));
+    EXPECT_TRUE(EstValeursNulles(Valeurs(ctx, "serie:PROD.DON+PROD-1:0:3").cellules));
     EXPECT_FLOAT_EQ(Valeur(2, 5), 3.0f);
     // Column 0 counts in the test even when the table doesn't show it.
     ctx.etat.tableaux.valeursLignes[0][1] = 4.0f;
-    EXPECT_FALSE(EstValeursNulles(Cellules("1", 1)));
+    EXPECT_FALSE(EstValeursNulles(Cellules("1")));
     EXPECT_TRUE(EstValeursNulles("valeurs nulles"));
     EXPECT_FALSE(EstValeursNulles("VALEURS NULLES "));
 }

@@ -37,15 +37,12 @@ TEST(CodeTableau, FormeExacte) {
     EXPECT_EQ(Code(t), "taba2p3;larg2000;larg1000;larg1000;larg7200()");
 }
 
-TEST(CodeTableau, PrefixeDeRepetition) {
+TEST(CodeTableau, PrefixeDeRepetitionEnModeAnneesSeulement) {
     TableauModele t;
-    t.genre = kTableauCulturePerenne;
-    t.typeEntete = 2;
-    EXPECT_EQ(Code(t).substr(0, 12), "cultper2taba");
-    t.pageDebut = 12;
     t.genre = kTableauActiviteLibre;
+    t.typeEntete = 2;
+    t.pageDebut = 12;
     EXPECT_EQ(Code(t).substr(0, 13), "actlibr212tab");
-    // Only in mode "a".
     t.multiDossier = 1;
     t.nbDossiers = 4;
     EXPECT_EQ(Code(t).substr(0, 5), "tabd4");
@@ -106,6 +103,11 @@ TEST(CodeTableau, AllerRetourDeModeles) {
     TableauModele vide;
     vide.nbColonnes = 0;
     modeles.push_back(vide);
+    // Blanks are written as "_" and come back as blanks.
+    TableauModele blancs;
+    blancs.nbColonnes = 2;
+    blancs.lignes = {Ligne("Mon libellé  ", "totalC:LG1 + LG2")};
+    modeles.push_back(blancs);
 
     for (const TableauModele& m : modeles) {
         const Texte code = Code(m);
@@ -128,16 +130,6 @@ TEST(CodeTableau, LimiteDe511Lignes) {
     EXPECT_EQ(Code(t), Code(relu));
     const Texte code = Code(relu);
     EXPECT_EQ(LireCodeTableau(code.substr(0, code.size() - 1) + "#[1;1][x][y][espace])"), relu);
-}
-
-TEST(CodeTableau, SoulignesEtBlancs) {
-    TableauModele t;
-    t.lignes = {Ligne("Mon_libellé  ", "totalC:LG1_+_LG2")};
-    const Texte code = Code(t);
-    EXPECT_NE(code.find("[Mon_libellé__;"), Texte::npos);
-    const TableauModele relu = LireCodeTableau(code);
-    EXPECT_EQ(relu.Ligne(1)->cellules[0].texte, "Mon libellé  "); // "_" comes back as a space
-    EXPECT_EQ(relu.Ligne(1)->definition, "totalC:LG1 + LG2");
 }
 
 TEST(CodeTableau, ValeursHorsDesChiffres) {
@@ -173,9 +165,8 @@ protected:
 
 TEST_F(CodeTableauIncomplet, MessageEtCodeDesLignesPrecedentes) {
     // Silent: no code at all. No such table: nothing either.
+    for (int numero : {0, 3}) EXPECT_EQ(CodeTableau(ctx, numero, false), "");
     EXPECT_EQ(CodeTableau(ctx, 2, true), "");
-    EXPECT_EQ(CodeTableau(ctx, 0, false), "");
-    EXPECT_EQ(CodeTableau(ctx, 3, false), "");
     EXPECT_TRUE(utilisateur.messages.empty());
     const Texte code = CodeTableau(ctx, 2, false);
     EXPECT_TRUE(code.ends_with("[b;5006;10;1;1;0;0;0;0;l;1;1;1;1;8][espace;5006;10;1;0;0;0;0;0;"

@@ -93,6 +93,21 @@ protected:
     Contexte ctx;
 };
 
+inline constexpr const char* kLibelle = ";5006;10;1;0;0;0;0;0;l;1;1;1;1;16";
+inline constexpr const char* kValeurs = ";5006;10;1;0;0;0;0;0;r;1;1;1;1;8";
+
+// A line of a table's code: its label and its definition, each with a full format.
+inline Texte L(const Texte& libelle, const Texte& definition) {
+    return "[280;120][" + libelle + kLibelle + "][" + definition + kValeurs + "]";
+}
+
+// A table's code of the head `tete` and these lines.
+inline Texte Code(const Texte& tete, const std::vector<Texte>& lignes) {
+    Texte c = tete + "(";
+    for (std::size_t i = 0; i < lignes.size(); ++i) c += (i ? "#" : "") + lignes[i];
+    return c + ")";
+}
+
 // The texts of the cells of a row, in order: what stands between "{...<blank>" and "}\cell".
 inline std::vector<Texte> TextesCellules(const Texte& cellules) {
     std::vector<Texte> textes;

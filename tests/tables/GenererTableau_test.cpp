@@ -2,41 +2,28 @@
 #include "tables/GenererTableau.h"
 
 #include "EssaisRendu.h"
+#include "support/GrandTableau.h"
+#include "support/Morceaux.h"
 #include "tables/Cellules.h"
 #include "tables/LignesDomaine.h"
 
 #include <gtest/gtest.h>
 
-#include <random>
 #include <string>
 #include <vector>
 
 namespace verdane {
 namespace {
 
+using essais_rendu::Code;
 using essais_rendu::FichierDon;
+using essais_rendu::kLibelle;
+using essais_rendu::kValeurs;
+using essais_rendu::L;
 using essais_rendu::Rangees;
 using essais_rendu::RenduTest;
 using essais_rendu::Serie;
-
-constexpr const char* kLibelle = ";5006;10;1;0;0;0;0;0;l;1;1;1;1;16";
-constexpr const char* kValeurs = ";5006;10;1;0;0;0;0;0;r;1;1;1;1;8";
-
-Texte L(const Texte& libelle, const Texte& definition) {
-    return "[280;120][" + libelle + kLibelle + "][" + definition + kValeurs + "]";
-}
-
-Texte Code(const Texte& tete, const std::vector<Texte>& lignes) {
-    Texte c = tete + "(";
-    for (std::size_t i = 0; i < lignes.size(); ++i) c += (i ? "#" : "") + lignes[i];
-    return c + ")";
-}
-
-std::size_t Compter(const Texte& t, const Texte& mot) {
-    std::size_t n = 0;
-    for (auto p = t.find(mot); p != Texte::npos; p = t.find(mot, p + 1)) ++n;
-    return n;
-}
+using test::Compter;
 
 const std::vector<Texte> kLignesCompletes = {
     L("Campagne", "entete:1:a&b"),
@@ -66,12 +53,10 @@ TEST_F(RenduTest, TableauClassique) {
                                               "2\xA0"
                                               "470,0"}));
     EXPECT_EQ(rangees[4], (std::vector<Texte>{"Autre", "bidule", "bidule", "bidule"}));
-    EXPECT_EQ(Compter(rtf, "\\trowd"), 5u);
-    EXPECT_EQ(Compter(rtf, "\\trqc"), 5u);
-    EXPECT_EQ(Compter(rtf, "\\cellx2000"), 5u);
-    EXPECT_EQ(Compter(rtf, "\\cellx8000"), 5u);
-    EXPECT_NE(rtf.find("\\ql\\f5006\\fs20\\cf1 Note de bas\\par\\plain }\\page {"), Texte::npos);
-    EXPECT_EQ(rtf.find("cachées"), Texte::npos);
+    for (const char* morceau : {"\\trowd", "\\trqc", "\\cellx2000", "\\cellx8000"})
+        EXPECT_EQ(Compter(rtf, morceau), 5) << morceau;
+    EXPECT_TRUE(test::Contient(rtf, {"\\ql\\f5006\\fs20\\cf1 Note de bas\\par\\plain }\\page {"}));
+    EXPECT_TRUE(test::Exclut(rtf, {"cachées"}));
     EXPECT_EQ(rtf.rfind("\\row\\pard\\plain "), rtf.size() - 16);
     EXPECT_TRUE(u.messages.empty()) << u.ToutCeQuiAEteDit();
 
@@ -85,10 +70,10 @@ TEST_F(RenduTest, TableauClassique) {
 TEST_F(RenduTest, TeteDeLigne) {
     const Texte rtf = GenererTableau(
         ctx, "tabp1([5;10][a;5006;10;1;0;0;0;0;0;l;0;0;0;0;8][bidule]#[400;60][b][bidule])");
-    EXPECT_NE(rtf.find("\\plain \\trowd\\trleft0\\clvertalc\\clcbpat8\\cellx1000"), Texte::npos);
-    EXPECT_NE(rtf.find("\\plain \\trowd\\trgaph60\\trrh400\\trleft0"), Texte::npos);
     // A cell without format is a new cell: the configured size and alignment, no border.
-    EXPECT_NE(rtf.find("\\cellx8200\\ql\\intbl\\clvertalb{\\fs20\\f5006\\cf1 b}"), Texte::npos);
+    EXPECT_TRUE(test::Contient(rtf, {"\\plain \\trowd\\trleft0\\clvertalc\\clcbpat8\\cellx1000",
+                                     "\\plain \\trowd\\trgaph60\\trrh400\\trleft0",
+                                     "\\cellx8200\\ql\\intbl\\clvertalb{\\fs20\\f5006\\cf1 b}"}));
 }
 
 TEST_F(RenduTest, EspacesSeulsSansRangee) {
@@ -164,8 +149,7 @@ TEST_F(RenduTest, LignesDuDomaine) {
     DomaineTemoin domaine;
     ctx.etat.tableaux.lignesDomaine = &domaine;
     const Texte rtf = GenererTableau(ctx, code);
-    EXPECT_NE(rtf.find("\\trleft0<bloc 5 ligne 1>"), Texte::npos);
-    EXPECT_NE(rtf.find("\\trleft0<bloc 7 ligne 2>"), Texte::npos);
+    EXPECT_TRUE(test::Contient(rtf, {"\\trleft0<bloc 5 ligne 1>", "\\trleft0<bloc 7 ligne 2>"}));
     EXPECT_EQ(Rangees(rtf), (std::vector<std::vector<Texte>>{{"Blé tendre", "10", "20", "30"}}));
 }
 
@@ -190,41 +174,20 @@ TEST_F(RenduTest, CodeFormule) {
     EXPECT_EQ(valeur("99999999999a:1/0:0"), "0");
 }
 
-TEST_F(RenduTest, CodesMalFormesNeCassentRien) {
-    const Texte complet = Code("tabd3p2cr1;larg1000;larg99999;larg40000", kLignesCompletes);
-    for (std::size_t n = 0; n <= complet.size(); ++n) GenererTableau(ctx, complet.substr(0, n));
-    const std::vector<Texte> mauvais = {
-        "",
-        "tab",
-        "tabp0(" + L("a", "serie:PROD.DON+PROD-1") + ")",
-        "tabp9",
-        "tabp99;larg-5;larg-7(" + L("a", "totalS:LG1/LG0") + ")",
-        "tabd0p1(" + L("a", "entete") + ")",
-        "tabd9p1(" + L("a", "3@serie:X") + ")",
-        "tab((((([[[[;;;;]]]]#####)))",
-        "tabp1([a;b][c;d;e;f;g;h;i;j;k;l;m;n;o;p;q;r;s;t][totalC:LG(:0:0])",
-        "tabp1([280;120][x;99999999999;99999999999;-7;1;1;1;1;1;zz;9;9;9;9;-3][serie:P+P-1])",
-        "tabp1([280;120][x][entete:9])",
-        "tabp1([280;120][x][totalC:LG600+LG(NUL-0!A99):0:0])",
-    };
-    for (const Texte& code : mauvais) GenererTableau(ctx, code);
-
-    // Characters of the code language thrown anywhere, with a fixed seed.
-    std::mt19937 alea(4242);
-    const std::string signes = "[]();#:_@-+*/^LG0123456789adpcrtabserietotalCS\\'";
-    for (int essai = 0; essai < 400; ++essai) {
-        Texte code = complet;
-        for (int k = 0; k < 6; ++k) {
-            const auto i = alea() % code.size();
-            code[i] = signes[alea() % signes.size()];
-        }
-        GenererTableau(ctx, code);
-    }
-
+// The largest table: 511 lines, 9 label columns and 14 value columns (the start year and 13
+// study years), with totals over the lines above, with and without series from the dossier;
+// lines beyond it are left out.
+TEST_F(RenduTest, LePlusGrandTableauARangeeParLigne) {
+    ctx.etat.nbAnEtude = 13;
+    for (bool series : {false, true})
+        EXPECT_EQ(Compter(GenererTableau(ctx, test::CodeGrandTableau(series, "PROD.DON+PROD-1")),
+                          "\\row"),
+                  511);
+    // Line 3: twice the series as displayed (1234, not 1234.5) plus the header line's 0.
+    EXPECT_FLOAT_EQ(Valeur(3, 3), 2 * 1234.0f);
     // 600 lines: the table holds 511.
     std::vector<Texte> lignes(600, L("l", "serie:PROD.DON+PROD-1:0:0"));
-    const Texte rtf = GenererTableau(ctx, Code("tabp1", lignes));
-    EXPECT_EQ(Compter(rtf, "\\row"), 511u);
+    EXPECT_EQ(Compter(GenererTableau(ctx, Code("tabp1", lignes)), "\\row"), 511);
     EXPECT_EQ(ctx.etat.tableaux.TableauxCourants.size(), 1u);
 }
 

@@ -18,7 +18,6 @@ Texte CodeUneLigne(const Texte& tete, const Texte& ligne) {
 TEST(NombreTableau, LectureToleranteAuxErreurs) {
     EXPECT_EQ(NombreTableau("1200"), 1200);
     EXPECT_EQ(NombreTableau("  -35 "), -35);
-    EXPECT_EQ(NombreTableau("+7"), 7);
     // Decimals are rounded half to even, with either decimal mark.
     EXPECT_EQ(NombreTableau("12.5"), 12);
     EXPECT_EQ(NombreTableau("13.5"), 14);
@@ -80,10 +79,8 @@ TEST(LireEnteteTableau, PiecesPresentesAbsentesOuIllisibles) {
         // Another letter in place of the dossier mode consumes nothing.
         {"tabp2c;larg1;larg2;larg3(", 0, 2, 2, 1, 0, 0, {1, 2, 1000}, 3},
         {"taba2p2;larg12cm;larg99999999;larg-40(", 0, 2, 2, 0, 0, 0, {0, 0, 1000}, -40},
-        {"taba2p2;larg;larg;larg(", 0, 2, 2, 0, 0, 0, {0, 0, 1000}, 0},
         // Label columns: one character, a non-digit reads 0; "p12" is 1 column, year mode 2.
         {"taba2p0;larg5000(", 0, 2, 0, 0, 0, 0, {1000, 1000, 1000}, 5000},
-        {"taba2px", 0, 2, 0, 0, 0, 0, {1000, 1000, 1000}, 7200},
         {"taba2p12", 0, 2, 1, 0, 0, 2, {1000, 1000, 1000}, 7200},
         {"taba", 0, 0, 1, 0, 0, 0, {1000, 1000, 1000}, 7200},
         {"", 0, 2, 1, 0, 0, 0, {1000, 1000, 1000}, 7200},
@@ -115,42 +112,29 @@ TEST(LireLignesTableau, CellulesEtFormats) {
     LireEnteteTableau(code, t);
     LireLignesTableau(code, t);
     ASSERT_EQ(t.nbLignes(), 2);
+    const auto cellule = [](const CelluleModele& c) {
+        return c.texte + "|" + c.formatTexte + "|" + c.formatCadre;
+    };
     const LigneModele& l = *t.Ligne(1);
     EXPECT_EQ(l.hauteur, 300);
     EXPECT_EQ(l.retrait, 40);
-    EXPECT_EQ(l.cellules[0].texte, "Chiffre d'affaires é");
-    EXPECT_EQ(l.cellules[0].formatTexte, "5006;12;3;1;0;0;0;0;l");
-    EXPECT_EQ(l.cellules[0].formatCadre, "2;0;1;0;8");
+    EXPECT_EQ(cellule(l.cellules[0]), "Chiffre d'affaires é|5006;12;3;1;0;0;0;0;l|2;0;1;0;8");
     // Fewer than fourteen fields: all of them are the text format.
-    EXPECT_EQ(l.cellules[1].texte, "  ");
-    EXPECT_EQ(l.cellules[1].formatTexte, "1;2");
-    EXPECT_EQ(l.cellules[1].formatCadre, "");
-    EXPECT_EQ(l.definition, "serie:A.DON+A-1:0:1");
-    EXPECT_EQ(l.formatTexte, "5006;10;1;0;0;0;0;0;r");
-    EXPECT_EQ(l.formatCadre, "1;1;1;1;16;extra");
+    EXPECT_EQ(cellule(l.cellules[1]), "  |1;2|");
+    EXPECT_EQ(l.definition + "|" + l.formatTexte + "|" + l.formatCadre,
+              "serie:A.DON+A-1:0:1|5006;10;1;0;0;0;0;0;r|1;1;1;1;16;extra");
     EXPECT_EQ(l.annee, 0);
-    // Brackets without ";": the text or definition is the whole bracket, no format.
+    // Brackets without ";": the text or definition is the whole bracket, no format; the third
+    // bracket missing from the line reads "erreur".
     const LigneModele& m = *t.Ligne(2);
-    EXPECT_EQ(m.cellules[0].texte, "x");
-    EXPECT_EQ(m.cellules[0].formatTexte, "");
-    EXPECT_EQ(m.cellules[1].texte, "espace");
-    EXPECT_EQ(m.cellules[1].formatTexte, "");
-    EXPECT_EQ(m.definition, "erreur"); // third bracket missing from the line
-    EXPECT_EQ(m.formatTexte, "");
-    EXPECT_EQ(m.formatCadre, "");
+    EXPECT_EQ(cellule(m.cellules[0]) + cellule(m.cellules[1]), "x||espace||");
+    EXPECT_EQ(m.definition + "|" + m.formatTexte + "|" + m.formatCadre, "erreur||");
 }
 
 TEST(LireLignesTableau, AnneesDesLignesMultiDossier) {
-    const Texte lignes = Texte("[280;120][3@Label;") + kFormat + "][5@serie:A.DON+A-1:0;" +
-                         kFormat + "]#[280;120][Sans;" + kFormat + "][serie:B;" + kFormat + "]";
-    const TableauModele d = LireCodeTableau("tabd3p1;larg1;larg2(" + lignes + ")");
-    ASSERT_EQ(d.nbLignes(), 2);
-    EXPECT_EQ(d.Ligne(1)->cellules[0].texte, "Label");
-    EXPECT_EQ(d.Ligne(1)->definition, "serie:A.DON+A-1:0");
-    EXPECT_EQ(d.Ligne(1)->annee, 5);
-    EXPECT_EQ(d.Ligne(2)->annee, 0);
     // In mode "a" a label keeps its "@"; a definition loses it whatever the mode.
-    const TableauModele a = LireCodeTableau("taba2p1;larg1;larg2(" + lignes + ")");
+    const TableauModele a = LireCodeTableau(Texte("taba2p1;larg1;larg2([280;120][3@Label;") +
+                                            kFormat + "][5@serie:A.DON+A-1:0;" + kFormat + "])");
     EXPECT_EQ(a.Ligne(1)->cellules[0].texte, "3@Label");
     EXPECT_EQ(a.Ligne(1)->definition, "serie:A.DON+A-1:0");
     EXPECT_EQ(a.Ligne(1)->annee, 5);
@@ -198,43 +182,32 @@ TEST(LireLignesTableau, CrochetsDesequilibres) {
     EXPECT_EQ(sans.nbDossiers, 5);
 }
 
-TEST(LireLignesTableau, ColonnesDeLibelleDuModele) {
-    // The lines are read with the label columns the slot holds, which the head set.
-    const Texte code = "taba2p2;larg1;larg2;larg3([1;2][a][b][c])";
-    TableauModele t;
-    LireEnteteTableau(code, t);
-    LireLignesTableau(code, t);
-    EXPECT_EQ(t.Ligne(1)->definition, "c");
-    t.nbColonnes = 0;
-    LireLignesTableau(code, t);
-    EXPECT_EQ(t.Ligne(1)->definition, "a");
-    t.nbColonnes = 40; // beyond the nine cells a line holds
-    LireLignesTableau(code, t);
-    EXPECT_EQ(t.Ligne(1)->cellules[8].texte, "erreur");
-}
-
-TEST(LectureCodeParNumero, LectureDansUnEmplacement) {
+TEST(LireLignesTableau, ColonnesDeLibelleDuModeleOuDeLEmplacement) {
+    // The lines are read with the label columns the slot holds, which a caller may change.
     UtilisateurMuet utilisateur;
     Contexte ctx(utilisateur);
     ctx.etat.tableaux.TableauxCourants.resize(1);
-    const Texte source = "culture23tabd3p1c;larg1;larg2([1;2][a;b][4@serie:X;c])";
-    Texte code = source;
+    Texte code = "culture23tabd3p2;larg1;larg2([1;2][a][b][4@serie:X;c])";
     LirePrefixeTableau(ctx, code, 1);
     LireEnteteTableau(ctx, code, 1);
-    ctx.etat.tableaux.Tableau(1)->nbColonnes = 0; // as a caller may change the head
     LireLignesTableau(ctx, code, 1);
-    TableauModele attendu = LireCodeTableau(source);
-    attendu.nbColonnes = 0;
-    LireLignesTableau(code, attendu);
-    EXPECT_EQ(ctx.etat.tableaux.TableauxCourants[0], attendu);
-    EXPECT_EQ(attendu.Ligne(1)->definition, "a");
+    const TableauModele& lu = ctx.etat.tableaux.TableauxCourants[0];
+    EXPECT_EQ(lu.genre, kTableauCulture);
+    EXPECT_EQ(lu.Ligne(1)->definition, "serie:X");
+    EXPECT_EQ(lu.Ligne(1)->annee, 4);
+    ctx.etat.tableaux.Tableau(1)->nbColonnes = 0;
+    LireLignesTableau(ctx, code, 1);
+    EXPECT_EQ(lu.Ligne(1)->definition, "a");
     // No such slot: nothing happens.
     for (int numero : {0, 2, -1}) {
         LirePrefixeTableau(ctx, code, numero);
-        LireEnteteTableau(ctx, code, numero);
         LireLignesTableau(ctx, code, numero);
     }
     EXPECT_EQ(ctx.etat.tableaux.TableauxCourants.size(), 1u);
+    TableauModele t;
+    t.nbColonnes = 40; // beyond the nine cells a line holds
+    LireLignesTableau(code, t);
+    EXPECT_EQ(t.Ligne(1)->cellules[8].texte, "erreur");
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "EssaisRendu.h"
 #include "shell/console/ConsoleUtilisateur.h"
+#include "support/Morceaux.h"
 #include "tables/GenererTableau.h"
 
 #include <gtest/gtest.h>
@@ -12,10 +13,10 @@
 namespace verdane {
 namespace {
 
+using essais_rendu::Code;
+using essais_rendu::L;
 using essais_rendu::Rangees;
 using essais_rendu::RenduTest;
-
-constexpr const char* kF = ";5006;10;1;0;0;0;0;0;r;1;1;1;1;8";
 
 class MultiDossiersTest : public RenduTest {
 protected:
@@ -27,11 +28,10 @@ protected:
         };
     }
     Texte Tableau2(const Texte& tete) {
-        return GenererTableau(ctx, tete + "([280;120][Dossier" + kF + "][entete:1:x" + kF +
-                                       "]#[280;120][An_1" + kF + "][1@serie:PROD.DON+PROD-1:0:0" +
-                                       kF + "]#[280;120][An_0" + kF +
-                                       "][serie:PROD.DON+PROD-1:0:0" + kF + "]#[280;120][Double" +
-                                       kF + "][totalC:LG2*2:0:0" + kF + "])");
+        return GenererTableau(
+            ctx,
+            Code(tete, {L("Dossier", "entete:1:x"), L("An_1", "1@serie:PROD.DON+PROD-1:0:0"),
+                        L("An_0", "serie:PROD.DON+PROD-1:0:0"), L("Double", "totalC:LG2*2:0:0")}));
     }
     bool repondre = true;
     int nombreChoisi = 0;
@@ -63,10 +63,10 @@ TEST_F(MultiDossiersTest, ColonnesDeDossiers) {
 TEST_F(MultiDossiersTest, LesReferencesDeSerieLisentLeDossierCourant) {
     // LG(...) reads slot 0 (factor 1) at the year of the column number, whatever the column's
     // dossier; LGn reads the column's own values.
-    const auto rangees = Rangees(GenererTableau(
-        ctx, Texte("tabd2p1([280;120][Courant") + kF + "][totalC:LG(PROD-1)+0:0:0" + kF +
-                 "]#[280;120][Colonne" + kF + "][3@serie:PROD.DON+PROD-1:0:0" + kF +
-                 "]#[280;120][Double" + kF + "][totalS:LG2+LG2:0:0" + kF + "])"));
+    const auto rangees =
+        Rangees(GenererTableau(ctx, Code("tabd2p1", {L("Courant", "totalC:LG(PROD-1)+0:0:0"),
+                                                     L("Colonne", "3@serie:PROD.DON+PROD-1:0:0"),
+                                                     L("Double", "totalS:LG2+LG2:0:0")})));
     ASSERT_EQ(rangees.size(), 3u);
     EXPECT_EQ(rangees[0], (std::vector<Texte>{"Courant", "2", "3"}));
     EXPECT_EQ(rangees[1], (std::vector<Texte>{"Colonne",
@@ -98,8 +98,7 @@ TEST_F(MultiDossiersTest, DossiersImposesSansQuestion) {
     EXPECT_EQ(rangees[1], (std::vector<Texte>{"An 1", "20"}));
     EXPECT_EQ(u.demandes.size(), 0);
     ctx.etat.nbDossiersImposes = 2;
-    rangees = Rangees(Tableau2("tabd1p1"));
-    EXPECT_EQ(rangees[1], (std::vector<Texte>{"An 1", "20"}));
+    EXPECT_EQ(Rangees(Tableau2("tabd1p1"))[1], (std::vector<Texte>{"An 1", "20"}));
     rangees = Rangees(Tableau2("tabd2p1"));
     EXPECT_EQ(rangees[1], (std::vector<Texte>{"An 1", "20", "200"}));
     EXPECT_EQ(u.demandes.size(), 0);
@@ -126,40 +125,35 @@ struct Flux {
     std::FILE* err;
 };
 
-TEST(ConsoleDossiersTest, AuTerminal) {
-    Flux f("3\n\n/donn\xC3\xA9"
-           "es/Marlo/MARTIN/\n\n");
-    ConsoleUtilisateur console(f.in, true, f.err, false);
-    int nombre = 2;
+TEST(ConsoleDossiersTest, AuTerminalOuSans) {
     std::vector<DossierCompare> dossiers(9);
     dossiers[0] = {"/a/", "DUPONT"};
-    ASSERT_TRUE(
-        console.ChoisirDossiers(kTitreMultiDossier, kConsigneMultiDossier, nombre, dossiers));
-    EXPECT_EQ(nombre, 3);
-    EXPECT_EQ(dossiers[0].nom, "DUPONT");
-    EXPECT_EQ(dossiers[1].repertoire, "/donn\xE9"
-                                      "es/Marlo/");
-    EXPECT_EQ(dossiers[1].nom, "MARTIN");
-    EXPECT_TRUE(dossiers[2].nom.empty());
-    EXPECT_NE(f.Sortie().find("Dossier 1 [/a/DUPONT] ?"), std::string::npos);
-}
-
-TEST(ConsoleDossiersTest, SansTerminal) {
+    int nombre = 2;
+    {
+        Flux f("3\n\n/donn\xC3\xA9"
+               "es/Marlo/MARTIN/\n\n");
+        ConsoleUtilisateur console(f.in, true, f.err, false);
+        ASSERT_TRUE(
+            console.ChoisirDossiers(kTitreMultiDossier, kConsigneMultiDossier, nombre, dossiers));
+        EXPECT_EQ(nombre, 3);
+        EXPECT_EQ(dossiers[0].nom, "DUPONT");
+        EXPECT_EQ(dossiers[1].repertoire, "/donn\xE9"
+                                          "es/Marlo/");
+        EXPECT_EQ(dossiers[1].nom, "MARTIN");
+        EXPECT_TRUE(dossiers[2].nom.empty());
+        EXPECT_NE(f.Sortie().find("Dossier 1 [/a/DUPONT] ?"), std::string::npos);
+    }
     Flux f("");
     ConsoleUtilisateur console(f.in, false, f.err, false);
-    int nombre = 2;
-    std::vector<DossierCompare> dossiers(9);
-    dossiers[0] = {"/a/", "DUPONT"};
+    nombre = 2;
     dossiers[1] = {"/b", "MARTIN"};
     EXPECT_TRUE(
         console.ChoisirDossiers(kTitreMultiDossier, kConsigneMultiDossier, nombre, dossiers));
     EXPECT_EQ(nombre, 2);
-    const std::string sortie = f.Sortie();
-    EXPECT_NE(sortie.find("comparaison des dossiers pr\xC3\xA9"
-                          "c\xC3\xA9"
-                          "dents"),
-              std::string::npos);
-    EXPECT_NE(sortie.find("Dossier 2 : /b/MARTIN"), std::string::npos);
+    EXPECT_TRUE(test::Contient(f.Sortie(), {"comparaison des dossiers pr\xC3\xA9"
+                                            "c\xC3\xA9"
+                                            "dents",
+                                            "Dossier 2 : /b/MARTIN"}));
 }
 
 } // namespace
