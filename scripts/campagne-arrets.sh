@@ -28,15 +28,7 @@ echec() { echo "ÉCHEC : $*"; echecs=$((echecs + 1)); }
 
 # A model of about 20 MB for the writing (its codes are the dossier's name: every run makes the
 # same document), the sample sheet for the conversions.
-python3 - "$travail/gros.vdm" <<'PY'
-import sys
-with open(sys.argv[1], 'w') as f:
-    f.write('{\\rtf1\n')
-    ligne = 'Du texte et un code #mrl(nomDossier)# puis encore du texte\\par\n' * 1000
-    for _ in range(350):
-        f.write(ligne)
-    f.write('}\n')
-PY
+"$racine/tests/integration/gros_modele.sh" "$travail/gros.vdm" 350
 fiche="$marlo/Verdane/ModlDocs/fiche-dossier.vdm"
 
 lancer() { # model result: a run left to end

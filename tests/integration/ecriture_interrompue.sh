@@ -8,15 +8,7 @@ trap 'rm -rf "$travail"' EXIT
 mkdir -p "$travail/Marlo/ParamLog"
 cp "$2/ParamLog/Marlo.par" "$travail/Marlo/ParamLog/"
 # A model of about 40 MB, with codes all along it.
-python3 - "$travail/gros.vdm" <<'PY'
-import sys
-with open(sys.argv[1], 'w') as f:
-    f.write('{\\rtf1\n')
-    ligne = 'Du texte et un code #mrl(nomDossier)# puis encore du texte\\par\n' * 1000
-    for _ in range(700):
-        f.write(ligne)
-    f.write('}\n')
-PY
+"$(dirname "$0")/gros_modele.sh" "$travail/gros.vdm" 700
 printf 'ancien resultat complet\n' > "$travail/resultat.rtf"
 for attente in 0.05 0.2 0.5; do
     MARLO_HOME="$travail/Marlo" "$verdane" INI "$travail/gros.vdm" "$travail/resultat.rtf" "" remplacer \
